@@ -1,0 +1,48 @@
+#!/usr/bin/env bash
+# Takes a Debian bookworm machine from a fresh clone to a built tree: installs the
+# Debian packages that are missing, configures once and builds. Re-running it when
+# nothing changed costs only the package check and an up-to-date build.
+#
+#   scripts/setup.sh [--sanitize] [extra cmake -D options]
+#
+# BUILD_DIR overrides the build folder (default: build, or build-asan with --sanitize).
+set -euo pipefail
+
+root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+sanitize=OFF
+if [ "${1:-}" = "--sanitize" ]; then
+    sanitize=ON
+    shift
+fi
+if [ "$sanitize" = ON ]; then
+    build_dir=${BUILD_DIR:-$root/build-asan}
+else
+    build_dir=${BUILD_DIR:-$root/build}
+fi
+
+packages=(
+    cmake ninja-build g++ pkg-config
+    qtbase5-dev qtbase5-private-dev qttools5-dev qttools5-private-dev qttools5-dev-tools
+    libqt5svg5                # Designer's own icons include SVGs
+    fonts-dejavu-core         # offscreen rendering needs at least one font
+    xvfb xauth imagemagick    # the real designer under a virtual display, and screenshots of it
+)
+missing=()
+for p in "${packages[@]}"; do
+    dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q 'ok installed' || missing+=("$p")
+done
+if [ "${#missing[@]}" -gt 0 ]; then
+    sudo=""
+    [ "$(id -u)" = 0 ] || sudo=sudo
+    echo "Installing: ${missing[*]}"
+    $sudo apt-get update -qq
+    DEBIAN_FRONTEND=noninteractive $sudo apt-get install -y -qq --no-install-recommends "${missing[@]}"
+fi
+
+jobs=$(nproc 2>/dev/null || echo 2)
+if [ ! -f "$build_dir/CMakeCache.txt" ] || [ "$#" -gt 0 ]; then
+    cmake -S "$root" -B "$build_dir" -G Ninja \
+        -DCMAKE_BUILD_TYPE="${BUILD_TYPE:-RelWithDebInfo}" \
+        -DCC_SANITIZE="$sanitize" "$@"
+fi
+cmake --build "$build_dir" --parallel "$jobs"

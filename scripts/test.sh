@@ -1,0 +1,22 @@
+#!/usr/bin/env bash
+# Builds what is missing and runs the whole test suite, offscreen.
+#
+#   scripts/test.sh              the normal build (build/)
+#   scripts/test.sh --sanitize   the AddressSanitizer + UBSan build (build-asan/)
+#
+# Extra arguments after the optional --sanitize go to ctest (for example -R plugin).
+set -euo pipefail
+
+root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+if [ "${1:-}" = "--sanitize" ]; then
+    shift
+    "$root/scripts/setup.sh" --sanitize
+    build_dir=${BUILD_DIR:-$root/build-asan}
+else
+    "$root/scripts/setup.sh"
+    build_dir=${BUILD_DIR:-$root/build}
+fi
+
+export QT_QPA_PLATFORM=offscreen
+cd "$build_dir"
+ctest --output-on-failure --parallel "$(nproc 2>/dev/null || echo 2)" "$@"
