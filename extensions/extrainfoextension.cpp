@@ -1,0 +1,38 @@
+#include "extrainfoextension.h"
+
+#include "extrainfoextensionfactory.h"
+
+#include <nui/CommonControls/CcFormBuilder.hpp>
+
+ExtraInfoExtension::ExtraInfoExtension(QWidget *widget, ExtraInfoExtensionFactory *factory)
+    : m_widget(widget), m_factory(factory)
+{ }
+
+QDesignerFormEditorInterface *ExtraInfoExtension::core() const { return m_factory->core(); }
+
+QWidget *ExtraInfoExtension::widget() const { return m_widget; }
+
+bool ExtraInfoExtension::saveUiExtraInfo(DomUI *ui)
+{
+    Q_UNUSED(ui)
+    return true;
+}
+
+bool ExtraInfoExtension::loadUiExtraInfo(DomUI *ui)
+{
+    Q_UNUSED(ui)
+    return true;
+}
+
+// What goes into the element is the form builder's business; it gets no context.
+bool ExtraInfoExtension::saveWidgetExtraInfo(DomWidget *ui_widget)
+{
+    VoCc::FormBuilder::saveExtraInfo(ui_widget, m_widget, nullptr);
+    return true;
+}
+
+bool ExtraInfoExtension::loadWidgetExtraInfo(DomWidget *ui_widget)
+{
+    VoCc::FormBuilder::loadExtraInfo(ui_widget, m_widget, nullptr);
+    return true;
+}

@@ -1,0 +1,27 @@
+#include "extrainfoextensionfactory.h"
+
+#include "extrainfoextension.h"
+
+#include <QWidget>
+
+ExtraInfoExtensionFactory::ExtraInfoExtensionFactory(QExtensionManager *parent,
+                                                     QDesignerFormEditorInterface *core)
+    : QExtensionFactory(parent), m_core(core)
+{ }
+
+ExtraInfoExtensionFactory::~ExtraInfoExtensionFactory() = default;
+
+QObject *ExtraInfoExtensionFactory::createExtension(QObject *object, const QString &iid,
+                                                    QObject *parent) const
+{
+    Q_UNUSED(parent)
+    // The identifier is tested first; then any widget qualifies, of any class.
+    if (iid != QLatin1String(Q_TYPEID(QDesignerExtraInfoExtension)))
+        return nullptr;
+    if (!object->isWidgetType())
+        return nullptr;
+    // Deliberately without a parent: QExtensionFactory keeps the extension in its per-object
+    // cache and drops it when the widget goes away.
+    return new ExtraInfoExtension(static_cast<QWidget *>(object),
+                                  const_cast<ExtraInfoExtensionFactory *>(this));
+}
