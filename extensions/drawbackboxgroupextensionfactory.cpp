@@ -17,7 +17,7 @@ QObject *DrawbackBoxGroupExtensionFactory::createExtension(QObject *object, cons
     auto *group = qobject_cast<VoCc::DrawbackBoxGroup *>(object);
     if (!group)
         return nullptr;
-    if (iid != QLatin1String(Q_TYPEID(QDesignerContainerExtension)))
+    if (iid != Q_TYPEID(QDesignerContainerExtension))
         return nullptr;
     // Owned by the factory (Designer passes it as parent), one per group.
     return new DrawbackBoxGroupContainerExtension(group, parent);

@@ -16,7 +16,7 @@ QObject *ExtraInfoExtensionFactory::createExtension(QObject *object, const QStri
 {
     Q_UNUSED(parent)
     // The identifier is tested first; then any widget qualifies, of any class.
-    if (iid != QLatin1String(Q_TYPEID(QDesignerExtraInfoExtension)))
+    if (iid != Q_TYPEID(QDesignerExtraInfoExtension))
         return nullptr;
     if (!object->isWidgetType())
         return nullptr;

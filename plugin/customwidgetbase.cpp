@@ -1,0 +1,163 @@
+#include "customwidgetbase.h"
+
+#include "widgetpluginrow.h"
+
+#include <nui/CommonControls/CcDrawbackBoxGroup.hpp>
+#include <nui/CommonControls/CcMatrixButtons.hpp>
+
+#include <QIcon>
+#include <QtDesigner/QDesignerFormEditorInterface>
+#include <QtDesigner/QDesignerFormWindowInterface>
+#include <QtDesigner/QDesignerFormWindowManagerInterface>
+#include <QtDesigner/QDesignerPropertyEditorInterface>
+#include <QtDesigner/QDesignerPropertySheetExtension>
+#include <QtDesigner/QExtensionManager>
+#include <QtDesigner/private/qtresourcemodel_p.h>
+
+namespace {
+
+// Push-button matrices only, whichever matrix plug-in asks: their buttons carry the icons.
+const char pushButtonMatrixClass[] = "VoCc::MatrixPushButtons";
+
+void reapplyPushButtonMatrices(QObject *object)
+{
+    if (qstrcmp(object->metaObject()->className(), pushButtonMatrixClass) == 0) {
+        if (auto *matrix = qobject_cast<VoCc::AbstractMatrixOptions *>(object))
+            matrix->setTextList(matrix->textList());
+    }
+    // A copy: rebuilding a matrix replaces its buttons.
+    const QObjectList children = object->children();
+    for (QObject *child : children)
+        reapplyPushButtonMatrices(child);
+}
+
+} // namespace
+
+CustomWidgetBase::CustomWidgetBase(QObject *plugin, const WidgetPluginRow *row)
+    : m_plugin(plugin), m_row(row)
+{
+    Q_ASSERT(row);
+}
+
+QString CustomWidgetBase::name() const { return QLatin1String(m_row->name); }
+
+QString CustomWidgetBase::group() const { return QLatin1String(m_row->group); }
+
+QString CustomWidgetBase::toolTip() const
+{
+    return m_row->toolTip ? QString(QLatin1String(m_row->toolTip)) : QString();
+}
+
+QString CustomWidgetBase::whatsThis() const
+{
+    return m_row->toolTip ? QString(QLatin1String("")) : QString();
+}
+
+QString CustomWidgetBase::includeFile() const { return QLatin1String(m_row->includeFile); }
+
+QIcon CustomWidgetBase::icon() const { return QIcon(); }
+
+bool CustomWidgetBase::isContainer() const { return m_row->container; }
+
+QWidget *CustomWidgetBase::createWidget(QWidget *parent)
+{
+    const bool followsEditor = m_row->tracking == Tracking::PropertyEditor
+            || m_row->tracking == Tracking::PropertyEditorAndResources;
+    // One connection per created widget, on purpose: the slots run once per widget made.
+    if (followsEditor && m_core) {
+        m_propertyEditor = m_core->propertyEditor();
+        if (m_propertyEditor)
+            QObject::connect(m_propertyEditor, SIGNAL(propertyChanged(QString, QVariant)), m_plugin,
+                             SLOT(propertyChanged(QString, QVariant)));
+        if (m_row->tracking == Tracking::PropertyEditorAndResources)
+            QObject::connect(m_core->resourceModel(),
+                             SIGNAL(resourceSetActivated(QtResourceSet *, bool)), m_plugin,
+                             SLOT(resourceSetActivated(QtResourceSet *, bool)));
+    }
+    QWidget *widget = m_row->createWidget(parent);
+    if (m_row->tracking == Tracking::Pages) {
+        QObject::connect(widget, SIGNAL(currentIndexChanged(int)), m_plugin,
+                         SLOT(currentIndexChanged(int)));
+        QObject::connect(widget, SIGNAL(pageTitleChanged(QString)), m_plugin,
+                         SLOT(pageTitleChanged(QString)));
+    }
+    return widget;
+}
+
+bool CustomWidgetBase::isInitialized() const { return m_initialized; }
+
+void CustomWidgetBase::initialize(QDesignerFormEditorInterface *core)
+{
+    if (m_initialized)
+        return;
+    if (m_row->extensions)
+        m_row->extensions(core);
+    if (m_row->taskMenu)
+        m_row->taskMenu(core);
+    if (m_row->tracking != Tracking::Nothing && m_row->tracking != Tracking::Pages)
+        m_core = core;
+    m_initialized = true;
+}
+
+QString CustomWidgetBase::domXml() const
+{
+    const DefaultXml &xml = m_row->domXml;
+    if (xml.text)
+        return QLatin1String(xml.text);
+    QString text = QLatin1String("<widget class=\"") + QLatin1String(m_row->name)
+            + QLatin1String("\" name=\"") + QLatin1String(xml.objectName)
+            + QLatin1String("\">\n"
+                            " <property name=\"id\" stdset=\"0\">\n"
+                            "  <number></number>\n"
+                            " </property>\n"
+                            "</widget>");
+    if (xml.lineFeed)
+        text += QLatin1Char('\n');
+    return text;
+}
+
+void CustomWidgetBase::repaintEditedWidget() const
+{
+    if (!m_propertyEditor)
+        return;
+    QObject *object = m_propertyEditor->object();
+    if (object && object->isWidgetType()
+        && qstrcmp(object->metaObject()->className(), m_row->name) == 0)
+        static_cast<QWidget *>(object)->update();
+}
+
+void CustomWidgetBase::reapplyPushButtonMatrices() const
+{
+    if (!m_core)
+        return;
+    if (QDesignerFormWindowInterface *formWindow = m_core->formWindowManager()->activeFormWindow())
+        ::reapplyPushButtonMatrices(formWindow);
+}
+
+void CustomWidgetBase::selectCurrentPage(QObject *sender, int index) const
+{
+    auto *group = qobject_cast<VoCc::DrawbackBoxGroup *>(sender);
+    if (!group)
+        return;
+    // A group outside a form (a preview, say) has nothing to select.
+    if (QDesignerFormWindowInterface *formWindow =
+                QDesignerFormWindowInterface::findFormWindow(group))
+        formWindow->selectWidget(group->widget(index), true);
+}
+
+void CustomWidgetBase::markCurrentPageTitleChanged(QObject *sender) const
+{
+    auto *group = qobject_cast<VoCc::DrawbackBoxGroup *>(sender);
+    if (!group)
+        return;
+    // Always the current page: the group edits the title of its current page.
+    QWidget *page = group->widget(group->currentIndex());
+    QDesignerFormWindowInterface *formWindow = QDesignerFormWindowInterface::findFormWindow(group);
+    if (!formWindow || !page)
+        return;
+    // Designer writes only properties marked changed; this puts the title into the form file.
+    auto *sheet = qt_extension<QDesignerPropertySheetExtension *>(
+            formWindow->core()->extensionManager(), page);
+    if (sheet)
+        sheet->setChanged(sheet->indexOf(QStringLiteral("windowTitle")), true);
+}

@@ -1,0 +1,8 @@
+#pragma once
+
+class QDesignerFormEditorInterface;
+
+// Registrations of extension factories with Designer's extension manager, which owns the
+// factories from then on. Each runs from one plug-in's first initialisation.
+void registerPageGroupContainer(QDesignerFormEditorInterface *core);
+void registerExtraInfo(QDesignerFormEditorInterface *core);

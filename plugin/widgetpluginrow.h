@@ -1,0 +1,58 @@
+#pragma once
+
+class QDesignerCustomWidgetInterface;
+class QDesignerFormEditorInterface;
+class QObject;
+class QWidget;
+struct QMetaObject;
+
+// How a plug-in keeps the form display current for the widgets it creates.
+enum class Tracking {
+    Nothing,
+    Core, // keeps the Designer core for its editors, connects nothing
+    PropertyEditor, // repaints its edited widget on every property change
+    PropertyEditorAndResources, // also re-applies button matrices when a resource set is activated
+    Pages, // follows the page switches and title changes of its page groups
+};
+
+// The default XML of a widget class: either the standard element with a dynamic "id"
+// property and the given object name, or a complete text of its own.
+struct DefaultXml
+{
+    const char *objectName;
+    bool lineFeed;
+    const char *text;
+};
+
+constexpr DefaultXml standardXml(const char *objectName) { return {objectName, true, nullptr}; }
+constexpr DefaultXml standardXmlNoLineFeed(const char *objectName)
+{
+    return {objectName, false, nullptr};
+}
+constexpr DefaultXml specialXml(const char *text) { return {nullptr, false, text}; }
+
+using ExtensionRegistration = void (*)(QDesignerFormEditorInterface *core);
+
+// One widget class as the widget box shows it, and what its plug-in does for Designer.
+struct WidgetPluginRow
+{
+    const QMetaObject *plugin;
+    QDesignerCustomWidgetInterface *(*createPlugin)(QObject *parent);
+    const char *name;
+    const char *group;
+    const char *includeFile;
+    bool container;
+    const char *toolTip; // null: the plug-in answers both description texts with null strings
+    DefaultXml domXml;
+    QWidget *(*createWidget)(QWidget *parent);
+    Tracking tracking;
+    ExtensionRegistration extensions;
+    ExtensionRegistration taskMenu;
+};
+
+// The widget plug-ins in the order the widget box is fed.
+const WidgetPluginRow *widgetPluginRows();
+int widgetPluginCount();
+
+// The row of a plug-in class, found by its meta-object; null for a class not in the table.
+const WidgetPluginRow *widgetPluginRow(const QMetaObject *plugin);
