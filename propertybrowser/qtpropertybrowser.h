@@ -92,6 +92,7 @@ protected:
 private:
     Q_DISABLE_COPY(QtAbstractPropertyManager)
     friend class QtProperty;
+    friend class QtAbstractPropertyManagerPrivate;
     QScopedPointer<QtAbstractPropertyManagerPrivate> d_ptr;
 };
 
