@@ -1,0 +1,76 @@
+#pragma once
+
+#include "CcGlobal.hpp"
+
+#include <QFormBuilder>
+#include <QStringList>
+
+QT_BEGIN_NAMESPACE
+class DomWidget;
+QT_END_NAMESPACE
+
+namespace VoCc {
+
+// Loads and saves forms that use the CommonControls widgets, without any Designer plug-in.
+//
+// The entries of the list-like widgets travel in the form file as <item> elements of the
+// widget, each with <property> children "text", "icon" (a pixmap path), "toolTip", "data"
+// and "action" (the last two marked notr="true"); an absent property is an empty entry, so
+// item i holds entry i of every list of the widget:
+//  - OptionComboBox, OptionButtons, OptionRadios, OptionCheckBox: text, icon, toolTip, data;
+//  - CheckableTextComboBox: text, toolTip;
+//  - MatrixPushButtons, MatrixRadioButtons, MatrixCheckBoxes: text, icon, toolTip, action;
+//    their dimensions are the properties "row" and "column", which saveExtraInfo writes
+//    next to the items (replacing any already there), so the file always says how the list
+//    is laid out;
+//  - MatrixPopButtons: its texts are its "textList" property, not items; its items carry
+//    icon, toolTip and action only, and "row", "column" and "textList" are written as
+//    properties (replacing any already there), so no text is stored twice;
+//  - ComboBox: its items (text and icon) are written by the form writer itself; only the
+//    action of each item is added to the <item> elements already there;
+//  - DrawbackBoxGroup: nothing extra is saved (the pages are child widgets whose window
+//    titles are the page titles); on load its "currentIndex" property is applied again
+//    once the pages exist.
+//
+// saveExtraInfo replaces what it wrote before, so saving the same element again adds
+// nothing. loadExtraInfo ignores unknown properties and items of widgets it does not know,
+// and pads short lists with empty entries. Both take an unused context pointer.
+class VOCC_EXPORT FormBuilder : public QFormBuilder
+{
+public:
+    FormBuilder();
+    ~FormBuilder() override;
+
+    // Writes the widget's entries into its element.
+    static void saveExtraInfo(DomWidget *domWidget, QWidget *widget, void *context);
+    // Reads the widget's entries from its element.
+    static void loadExtraInfo(DomWidget *domWidget, QWidget *widget, void *context);
+
+    QWidget *load(QIODevice *device, QWidget *parentWidget = nullptr) override;
+    using QFormBuilder::save;
+
+    // The VoCc classes this builder creates, as written in form files ("VoCc::ComboBox").
+    static QStringList widgetClassNames();
+    // Makes a widget of one of those classes, or returns null for any other name.
+    static QWidget *createCommonControl(const QString &className, QWidget *parent);
+
+    // Classes named by the last loaded form that neither this builder nor Qt could create
+    // (the loader then puts a widget of the declared base class in their place).
+    QStringList unknownClassNames() const;
+
+protected:
+    QWidget *createWidget(const QString &widgetName, QWidget *parentWidget,
+                          const QString &name) override;
+    QWidget *create(DomWidget *domWidget, QWidget *parentWidget) override;
+    using QFormBuilder::create;
+    bool addItem(DomWidget *domWidget, QWidget *widget, QWidget *parentWidget) override;
+    using QFormBuilder::addItem;
+    void saveExtraInfo(QWidget *widget, DomWidget *domWidget, DomWidget *domParentWidget) override;
+    DomWidget *createDom(QWidget *widget, DomWidget *domParentWidget, bool recursive) override;
+    using QFormBuilder::createDom;
+
+private:
+    QStringList m_unknownClassNames;
+};
+
+} // namespace VoCc

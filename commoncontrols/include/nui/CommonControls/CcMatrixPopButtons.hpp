@@ -1,0 +1,71 @@
+#pragma once
+
+#include "CcGlobal.hpp"
+
+#include <QList>
+#include <QStringList>
+#include <QWidget>
+
+class QGridLayout;
+class QMenu;
+class QToolButton;
+
+namespace VoCc {
+
+// A grid of row x column tool buttons, each with a pop-up menu. Cell i (row-major) takes
+// entry i of the text, icon, tool-tip and action lists; missing entries read as empty. A
+// cell's menu starts with its action, when it names one; an application adds more entries
+// through menu(i).
+class VOCC_EXPORT MatrixPopButtons : public QWidget
+{
+    Q_OBJECT
+    Q_PROPERTY(int row READ row WRITE setRow)
+    Q_PROPERTY(int column READ column WRITE setColumn)
+    Q_PROPERTY(QStringList textList READ textList WRITE setTextList)
+
+public:
+    explicit MatrixPopButtons(QWidget *parent = nullptr);
+    ~MatrixPopButtons() override;
+
+    int row() const;
+    void setRow(int rows);
+    int column() const;
+    void setColumn(int columns);
+
+    QStringList textList() const;
+    void setTextList(const QStringList &texts);
+    QStringList iconList() const;
+    void setIconList(const QStringList &iconPaths);
+    QStringList toolTips() const;
+    void setToolTips(const QStringList &toolTips);
+    QStringList actionList() const;
+    void setActionList(const QStringList &actions);
+
+    // The button of the cell at index, or null outside the grid.
+    QToolButton *button(int index) const;
+    // The pop-up menu of the cell at index, or null outside the grid.
+    QMenu *menu(int index) const;
+    int buttonCount() const;
+
+    // Rebuilds the buttons from the dimensions and the lists.
+    Q_INVOKABLE void updateGeomtries();
+
+signals:
+    void buttonClicked(int index);
+    void actionTriggered(const QString &action);
+
+private:
+    void rebuildButtons();
+    void refreshButtons();
+
+    QGridLayout *m_layout = nullptr;
+    QList<QToolButton *> m_buttons;
+    QStringList m_textList;
+    QStringList m_iconList;
+    QStringList m_toolTips;
+    QStringList m_actionList;
+    int m_rows = 2;
+    int m_columns = 2;
+};
+
+} // namespace VoCc

@@ -1,0 +1,4 @@
+#pragma once
+
+// Real-number controls.
+#include "CcRealNumberSlider.hpp"

@@ -1,0 +1,141 @@
+#include "nui/CommonControls/CcCheckableTextComboBox.hpp"
+
+#include "ccentrylists.h"
+
+#include <QAbstractItemView>
+#include <QComboBox>
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QLineEdit>
+#include <QMouseEvent>
+#include <QStandardItemModel>
+
+namespace VoCc {
+
+CheckableTextComboBox::CheckableTextComboBox(QWidget *parent)
+    : QWidget(parent), m_comboBox(new QComboBox(this)), m_model(new QStandardItemModel(this))
+{
+    auto *layout = new QHBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_comboBox);
+    setFocusProxy(m_comboBox);
+    setSizePolicy(m_comboBox->sizePolicy());
+
+    m_comboBox->setModel(m_model);
+    // A read-only line edit shows the summary of the checked texts instead of one entry.
+    m_comboBox->setEditable(true);
+    m_comboBox->lineEdit()->setReadOnly(true);
+    m_comboBox->lineEdit()->installEventFilter(this);
+    // Clicking an entry toggles it and keeps the list open.
+    m_comboBox->view()->viewport()->installEventFilter(this);
+    connect(m_model, &QStandardItemModel::itemChanged, this, [this] {
+        if (m_updating)
+            return;
+        updateSummary();
+        emit checkedTextsChanged(checkedTexts());
+    });
+    connect(m_comboBox, QOverload<int>::of(&QComboBox::activated), this,
+            &CheckableTextComboBox::updateSummary);
+    updateSummary();
+}
+
+CheckableTextComboBox::~CheckableTextComboBox() = default;
+
+QComboBox *CheckableTextComboBox::comboBox() const { return m_comboBox; }
+
+QStringList CheckableTextComboBox::itemTextList() const { return m_itemTextList; }
+
+void CheckableTextComboBox::setItemTextList(const QStringList &texts)
+{
+    m_itemTextList = texts;
+    rebuildItems();
+}
+
+QStringList CheckableTextComboBox::toolTips() const { return m_toolTips; }
+
+void CheckableTextComboBox::setToolTips(const QStringList &toolTips)
+{
+    m_toolTips = toolTips;
+    applyToolTips();
+}
+
+bool CheckableTextComboBox::isChecked(int index) const
+{
+    const QStandardItem *item = m_model->item(index);
+    return item && item->checkState() == Qt::Checked;
+}
+
+void CheckableTextComboBox::setChecked(int index, bool checked)
+{
+    if (QStandardItem *item = m_model->item(index))
+        item->setCheckState(checked ? Qt::Checked : Qt::Unchecked);
+}
+
+QStringList CheckableTextComboBox::checkedTexts() const
+{
+    QStringList texts;
+    for (int i = 0; i < m_model->rowCount(); ++i) {
+        if (isChecked(i))
+            texts.append(m_model->item(i)->text());
+    }
+    return texts;
+}
+
+void CheckableTextComboBox::setCheckedTexts(const QStringList &texts)
+{
+    m_updating = true;
+    for (int i = 0; i < m_model->rowCount(); ++i)
+        setChecked(i, texts.contains(m_model->item(i)->text()));
+    m_updating = false;
+    updateSummary();
+    emit checkedTextsChanged(checkedTexts());
+}
+
+bool CheckableTextComboBox::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_comboBox->lineEdit() && event->type() == QEvent::MouseButtonRelease) {
+        m_comboBox->showPopup();
+        return true;
+    }
+    if (watched == m_comboBox->view()->viewport() && event->type() == QEvent::MouseButtonRelease) {
+        const auto *mouse = static_cast<QMouseEvent *>(event);
+        const QModelIndex index = m_comboBox->view()->indexAt(mouse->pos());
+        if (QStandardItem *item = m_model->itemFromIndex(index)) {
+            item->setCheckState(item->checkState() == Qt::Checked ? Qt::Unchecked : Qt::Checked);
+            return true;
+        }
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void CheckableTextComboBox::rebuildItems()
+{
+    const QStringList checked = checkedTexts();
+    m_updating = true;
+    m_model->clear();
+    for (const QString &text : qAsConst(m_itemTextList)) {
+        auto *item = new QStandardItem(text);
+        item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsUserCheckable);
+        item->setCheckState(checked.contains(text) ? Qt::Checked : Qt::Unchecked);
+        m_model->appendRow(item);
+    }
+    m_updating = false;
+    applyToolTips();
+    updateSummary();
+}
+
+void CheckableTextComboBox::applyToolTips()
+{
+    for (int i = 0; i < m_model->rowCount(); ++i)
+        m_model->item(i)->setToolTip(EntryLists::at(m_toolTips, i));
+}
+
+void CheckableTextComboBox::updateSummary()
+{
+    // Picking an entry in an editable combo writes its text into the line edit; the summary
+    // of the checked texts replaces it at once.
+    m_comboBox->lineEdit()->setText(checkedTexts().join(QStringLiteral(", ")));
+    m_comboBox->lineEdit()->setCursorPosition(0);
+}
+
+} // namespace VoCc

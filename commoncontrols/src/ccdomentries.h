@@ -1,0 +1,55 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <QVector>
+
+QT_BEGIN_NAMESPACE
+class DomItem;
+class DomProperty;
+class DomWidget;
+QT_END_NAMESPACE
+
+namespace VoCc {
+namespace DomEntries {
+
+// The names of the item properties that carry the entries of list-like widgets.
+enum Field { Data, Text, Icon, ToolTip, Action, FieldCount };
+QString fieldName(Field field);
+
+// One list per field, aligned by index.
+struct Lists
+{
+    QStringList lists[FieldCount];
+
+    QStringList &operator[](Field field) { return lists[field]; }
+    const QStringList &operator[](Field field) const { return lists[field]; }
+};
+
+// Replaces the widget element's items with one item per entry of the given fields: item i
+// holds entry i of every listed field that is not empty, in the order data, text, icon,
+// toolTip, action. The number of items is the length of the longest list.
+void writeItems(DomWidget *domWidget, const Lists &lists, const QVector<Field> &fields);
+
+// Reads the given fields from the element's items; every list gets one entry per item
+// (an empty one where the item lacks the property). Unknown properties are ignored.
+Lists readItems(const DomWidget *domWidget, const QVector<Field> &fields);
+
+// The text of a property of any string-like kind (string, number, pixmap, icon set...), or
+// an empty text.
+QString propertyText(const DomProperty *property);
+
+// Sets one property of a widget element, replacing every property of that name before.
+void setNumberProperty(DomWidget *domWidget, const QString &name, int value);
+void setStringProperty(DomWidget *domWidget, const QString &name, const QString &value);
+void setStringListProperty(DomWidget *domWidget, const QString &name, const QStringList &value);
+
+// The property of that name of an element, or null.
+const DomProperty *findProperty(const DomWidget *domWidget, const QString &name);
+
+// Replaces the "action" property of item i of the element with actions[i] (or removes it when
+// the action is empty). Items are never added or removed.
+void writeItemActions(DomWidget *domWidget, const QStringList &actions);
+
+} // namespace DomEntries
+} // namespace VoCc

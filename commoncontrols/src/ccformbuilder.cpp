@@ -1,0 +1,384 @@
+#include "nui/CommonControls/CcFormBuilder.hpp"
+
+#include "ccdomentries.h"
+#include "nui/CommonControls/CcColorButton.hpp"
+#include "nui/CommonControls/CcColorPanel.hpp"
+#include "nui/CommonControls/CcColorPicker.hpp"
+#include "nui/CommonControls/CcComboBox.hpp"
+#include "nui/CommonControls/CcDrawbackBoxGroup.hpp"
+#include "nui/CommonControls/CcForm.hpp"
+#include "nui/CommonControls/CcFormProxy.hpp"
+#include "nui/CommonControls/CcLine.hpp"
+#include "nui/CommonControls/CcLineEditEx.hpp"
+#include "nui/CommonControls/CcLineType.hpp"
+#include "nui/CommonControls/CcLineWidth.hpp"
+#include "nui/CommonControls/CcListView.hpp"
+#include "nui/CommonControls/CcListWidget.hpp"
+#include "nui/CommonControls/CcMatrixButtons.hpp"
+#include "nui/CommonControls/CcMatrixPopButtons.hpp"
+#include "nui/CommonControls/CcPane.hpp"
+#include "nui/CommonControls/CcRealNumber.hpp"
+#include "nui/CommonControls/CcRealNumberEdit.hpp"
+#include "nui/CommonControls/CcSelectList.hpp"
+#include "nui/CommonControls/CcTableWidget.hpp"
+#include "nui/CommonControls/CcTextEdit.hpp"
+#include "nui/CommonControls/CcTreeView.hpp"
+#include "nui/CommonControls/Template/CcAngle.hpp"
+#include "nui/CommonControls/Template/CcCmdButton.hpp"
+#include "nui/CommonControls/Template/CcColor.hpp"
+#include "nui/CommonControls/Template/CcDistance.hpp"
+#include "nui/CommonControls/Template/CcEntity.hpp"
+#include "nui/CommonControls/Template/CcEntityList.hpp"
+#include "nui/CommonControls/Template/CcNumber.hpp"
+#include "nui/CommonControls/Template/CcPinEntity.hpp"
+#include "nui/CommonControls/Template/CcPinEntityList.hpp"
+#include "nui/CommonControls/Template/CcPoint.hpp"
+#include "nui/CommonControls/Template/CcSlider.hpp"
+#include "nui/CommonControls/Template/CcString.hpp"
+#include "nui/CommonControls/Template/CcWindow.hpp"
+#include "nui/CommonControls/Template/ColorTransfer.hpp"
+#include "nui/CommonControls/template/CcOptionButtons.hpp"
+#include "nui/CommonControls/template/CcOptionCheckBox.hpp"
+#include "nui/CommonControls/template/CcOptionComboBox.hpp"
+#include "nui/CommonControls/template/CcOptionRadios.hpp"
+
+#include <QtDesigner/private/ui4_p.h>
+
+namespace VoCc {
+
+namespace {
+
+using Factory = QWidget *(*)(QWidget *parent);
+
+template<class Widget>
+QWidget *make(QWidget *parent)
+{
+    return new Widget(parent);
+}
+
+struct WidgetClass
+{
+    const char *name;
+    Factory create;
+    // Whether the form's child widgets of this class are saved (containers), as opposed to
+    // the inner widgets a control is built from.
+    bool container;
+};
+
+// Every class of the library, as a form names it.
+const WidgetClass widgetClasses[] = {
+        {"VoCc::Angle", make<Angle>, false},
+        {"VoCc::CmdButton", make<CmdButton>, false},
+        {"VoCc::Color", make<Color>, false},
+        {"VoCc::ColorTransfer", make<ColorTransfer>, false},
+        {"VoCc::Distance", make<Distance>, false},
+        {"VoCc::Entity", make<Entity>, false},
+        {"VoCc::EntityList", make<EntityList>, false},
+        {"VoCc::PinEntity", make<PinEntity>, false},
+        {"VoCc::PinEntityList", make<PinEntityList>, false},
+        {"VoCc::FormProxy", make<FormProxy>, false},
+        {"VoCc::Number", make<Number>, false},
+        {"VoCc::OptionButtons", make<OptionButtons>, false},
+        {"VoCc::OptionCheckBox", make<OptionCheckBox>, false},
+        {"VoCc::OptionComboBox", make<OptionComboBox>, false},
+        {"VoCc::OptionRadios", make<OptionRadios>, false},
+        {"VoCc::Point", make<Point>, false},
+        {"VoCc::Slider", make<Slider>, false},
+        {"VoCc::String", make<String>, false},
+        {"VoCc::Window", make<Window>, false},
+        {"VoCc::CheckableTextComboBox", make<CheckableTextComboBox>, false},
+        {"VoCc::ColorButton", make<ColorButton>, false},
+        {"VoCc::ColorPanel", make<ColorPanel>, false},
+        {"VoCc::ColorPicker", make<ColorPicker>, false},
+        {"VoCc::ComboBox", make<ComboBox>, false},
+        {"VoCc::DrawbackBoxGroup", make<DrawbackBoxGroup>, true},
+        {"VoCc::Form", make<Form>, true},
+        {"VoCc::Line", make<Line>, false},
+        {"VoCc::LineEditBtn", make<LineEditBtn>, false},
+        {"VoCc::LineEditEx", make<LineEditEx>, false},
+        {"VoCc::LineType", make<LineType>, false},
+        {"VoCc::LineWidth", make<LineWidth>, false},
+        {"VoCc::ListView", make<ListView>, false},
+        {"VoCc::ListWidget", make<ListWidget>, false},
+        {"VoCc::MatrixCheckBoxes", make<MatrixCheckBoxes>, false},
+        {"VoCc::MatrixPopButtons", make<MatrixPopButtons>, false},
+        {"VoCc::MatrixPushButtons", make<MatrixPushButtons>, false},
+        {"VoCc::MatrixRadioButtons", make<MatrixRadioButtons>, false},
+        {"VoCc::Pane", make<Pane>, true},
+        {"VoCc::RealNumberEdit", make<RealNumberEdit>, false},
+        {"VoCc::RealNumberSlider", make<RealNumberSlider>, false},
+        {"VoCc::SelectList", make<SelectList>, false},
+        {"VoCc::TableWidget", make<TableWidget>, false},
+        {"VoCc::TextEdit", make<TextEdit>, false},
+        {"VoCc::TreeView", make<TreeView>, false},
+};
+
+const WidgetClass *findWidgetClass(const QString &name)
+{
+    for (const WidgetClass &widgetClass : widgetClasses) {
+        if (name == QLatin1String(widgetClass.name))
+            return &widgetClass;
+    }
+    return nullptr;
+}
+
+using namespace DomEntries;
+
+const QVector<Field> optionFields = {Text, Icon, ToolTip, Data};
+const QVector<Field> checkComboFields = {Text, ToolTip};
+const QVector<Field> matrixFields = {Text, Icon, ToolTip, Action};
+const QVector<Field> popCellFields = {Icon, ToolTip, Action};
+
+const QString rowProperty = QStringLiteral("row");
+const QString columnProperty = QStringLiteral("column");
+const QString textListProperty = QStringLiteral("textList");
+const QString currentIndexProperty = QStringLiteral("currentIndex");
+const QString windowTitleProperty = QStringLiteral("windowTitle");
+
+// Lists padded with empty entries to the same length, so that entry i of each list belongs
+// to one entry of the widget.
+void padLists(Lists &lists, const QVector<Field> &fields)
+{
+    int count = 0;
+    for (Field field : fields)
+        count = qMax(count, lists[field].size());
+    for (Field field : fields) {
+        while (lists[field].size() < count)
+            lists[field].append(QString());
+    }
+}
+
+DomWidget *findChildElement(DomWidget *domWidget, const QString &objectName)
+{
+    const QVector<DomWidget *> children = domWidget->elementWidget();
+    for (DomWidget *child : children) {
+        if (child->attributeName() == objectName)
+            return child;
+    }
+    return nullptr;
+}
+
+void savePageGroup(DomWidget *domWidget, DrawbackBoxGroup *group)
+{
+    setNumberProperty(domWidget, currentIndexProperty, group->currentIndex());
+    // A page's title is its window title; it goes into the page's own element whether or not
+    // the writer of that element saved it.
+    for (int i = 0; i < group->count(); ++i) {
+        QWidget *page = group->widget(i);
+        DomWidget *pageElement = page ? findChildElement(domWidget, page->objectName()) : nullptr;
+        if (pageElement && !group->pageTitle(i).isEmpty())
+            setStringProperty(pageElement, windowTitleProperty, group->pageTitle(i));
+    }
+}
+
+void loadPageGroup(const DomWidget *domWidget, DrawbackBoxGroup *group)
+{
+    for (int i = 0; i < group->count(); ++i) {
+        QWidget *page = group->widget(i);
+        if (page && !page->windowTitle().isEmpty())
+            group->box(i)->setTitle(page->windowTitle());
+    }
+    // The loader applied "currentIndex" before the pages existed.
+    if (const DomProperty *current = findProperty(domWidget, currentIndexProperty)) {
+        if (current->kind() == DomProperty::Number)
+            group->setCurrentIndex(current->elementNumber());
+    }
+}
+
+QStringList stringListProperty(const DomWidget *domWidget, const QString &name, bool *found)
+{
+    const DomProperty *property = findProperty(domWidget, name);
+    *found = property && property->kind() == DomProperty::StringList
+            && property->elementStringList();
+    return *found ? property->elementStringList()->elementString() : QStringList();
+}
+
+} // namespace
+
+FormBuilder::FormBuilder()
+{
+    // Every class of the library is built in; Designer plug-ins are not needed and not
+    // looked for.
+    setPluginPath(QStringList());
+}
+
+FormBuilder::~FormBuilder() = default;
+
+QWidget *FormBuilder::load(QIODevice *device, QWidget *parentWidget)
+{
+    m_unknownClassNames.clear();
+    return QFormBuilder::load(device, parentWidget);
+}
+
+QStringList FormBuilder::widgetClassNames()
+{
+    QStringList names;
+    for (const WidgetClass &widgetClass : widgetClasses)
+        names.append(QLatin1String(widgetClass.name));
+    return names;
+}
+
+QWidget *FormBuilder::createCommonControl(const QString &className, QWidget *parent)
+{
+    const WidgetClass *widgetClass = findWidgetClass(className);
+    return widgetClass ? widgetClass->create(parent) : nullptr;
+}
+
+QStringList FormBuilder::unknownClassNames() const { return m_unknownClassNames; }
+
+QWidget *FormBuilder::createWidget(const QString &widgetName, QWidget *parentWidget,
+                                   const QString &name)
+{
+    if (QWidget *widget = createCommonControl(widgetName, parentWidget)) {
+        widget->setObjectName(name);
+        return widget;
+    }
+    QWidget *widget = QFormBuilder::createWidget(widgetName, parentWidget, name);
+    // For a class it does not know, the loader falls back on the declared base class; "Line"
+    // is the one name it legitimately maps to another class.
+    if (!widget
+        || (widget->metaObject()->className() != widgetName
+            && widgetName != QLatin1String("Line"))) {
+        if (!m_unknownClassNames.contains(widgetName))
+            m_unknownClassNames.append(widgetName);
+    }
+    return widget;
+}
+
+QWidget *FormBuilder::create(DomWidget *domWidget, QWidget *parentWidget)
+{
+    QWidget *widget = QFormBuilder::create(domWidget, parentWidget);
+    if (widget)
+        loadExtraInfo(domWidget, widget, nullptr);
+    return widget;
+}
+
+bool FormBuilder::addItem(DomWidget *domWidget, QWidget *widget, QWidget *parentWidget)
+{
+    if (auto *group = qobject_cast<DrawbackBoxGroup *>(parentWidget)) {
+        group->addPage(widget);
+        return true;
+    }
+    return QFormBuilder::addItem(domWidget, widget, parentWidget);
+}
+
+void FormBuilder::saveExtraInfo(QWidget *widget, DomWidget *domWidget, DomWidget *domParentWidget)
+{
+    QFormBuilder::saveExtraInfo(widget, domWidget, domParentWidget);
+    saveExtraInfo(domWidget, widget, nullptr);
+}
+
+DomWidget *FormBuilder::createDom(QWidget *widget, DomWidget *domParentWidget, bool recursive)
+{
+    const WidgetClass *widgetClass =
+            findWidgetClass(QLatin1String(widget->metaObject()->className()));
+    if (!widgetClass || widgetClass->container) {
+        auto *group = qobject_cast<DrawbackBoxGroup *>(widget);
+        if (!group)
+            return QFormBuilder::createDom(widget, domParentWidget, recursive);
+        // The boxes are the group's own make-up; only the pages inside them are form content.
+        DomWidget *domWidget = QFormBuilder::createDom(widget, domParentWidget, false);
+        if (domWidget && recursive) {
+            QVector<DomWidget *> pages = domWidget->elementWidget();
+            for (int i = 0; i < group->count(); ++i) {
+                if (DomWidget *page = createDom(group->widget(i), domWidget, true))
+                    pages.append(page);
+            }
+            domWidget->setElementWidget(pages);
+            saveExtraInfo(domWidget, widget, nullptr);
+        }
+        return domWidget;
+    }
+    // A control's inner widgets and layout are not form content.
+    return QFormBuilder::createDom(widget, domParentWidget, false);
+}
+
+void FormBuilder::saveExtraInfo(DomWidget *domWidget, QWidget *widget, void *context)
+{
+    Q_UNUSED(context)
+    if (!domWidget || !widget)
+        return;
+
+    if (auto *options = qobject_cast<AbstractOptions *>(widget)) {
+        Lists lists;
+        lists[Text] = options->textList();
+        lists[Icon] = options->iconList();
+        lists[ToolTip] = options->toolTips();
+        lists[Data] = options->dataList();
+        writeItems(domWidget, lists, optionFields);
+    } else if (auto *checkCombo = qobject_cast<CheckableTextComboBox *>(widget)) {
+        Lists lists;
+        lists[Text] = checkCombo->itemTextList();
+        lists[ToolTip] = checkCombo->toolTips();
+        writeItems(domWidget, lists, checkComboFields);
+    } else if (auto *matrix = qobject_cast<AbstractMatrixOptions *>(widget)) {
+        Lists lists;
+        lists[Text] = matrix->textList();
+        lists[Icon] = matrix->iconList();
+        lists[ToolTip] = matrix->toolTips();
+        lists[Action] = matrix->actionList();
+        setNumberProperty(domWidget, rowProperty, matrix->row());
+        setNumberProperty(domWidget, columnProperty, matrix->column());
+        writeItems(domWidget, lists, matrixFields);
+    } else if (auto *popButtons = qobject_cast<MatrixPopButtons *>(widget)) {
+        Lists lists;
+        lists[Icon] = popButtons->iconList();
+        lists[ToolTip] = popButtons->toolTips();
+        lists[Action] = popButtons->actionList();
+        setNumberProperty(domWidget, rowProperty, popButtons->row());
+        setNumberProperty(domWidget, columnProperty, popButtons->column());
+        setStringListProperty(domWidget, textListProperty, popButtons->textList());
+        writeItems(domWidget, lists, popCellFields);
+    } else if (auto *comboBox = qobject_cast<ComboBox *>(widget)) {
+        // The items themselves are the form writer's; each gets its action.
+        writeItemActions(domWidget, comboBox->actionList());
+    } else if (auto *group = qobject_cast<DrawbackBoxGroup *>(widget)) {
+        savePageGroup(domWidget, group);
+    }
+}
+
+void FormBuilder::loadExtraInfo(DomWidget *domWidget, QWidget *widget, void *context)
+{
+    Q_UNUSED(context)
+    if (!domWidget || !widget)
+        return;
+
+    if (auto *options = qobject_cast<AbstractOptions *>(widget)) {
+        Lists lists = readItems(domWidget, optionFields);
+        options->setTextList(lists[Text]);
+        options->setIconList(lists[Icon]);
+        options->setToolTips(lists[ToolTip]);
+        options->setDataList(lists[Data]);
+    } else if (auto *checkCombo = qobject_cast<CheckableTextComboBox *>(widget)) {
+        Lists lists = readItems(domWidget, checkComboFields);
+        checkCombo->setItemTextList(lists[Text]);
+        checkCombo->setToolTips(lists[ToolTip]);
+    } else if (auto *matrix = qobject_cast<AbstractMatrixOptions *>(widget)) {
+        Lists lists = readItems(domWidget, matrixFields);
+        matrix->setTextList(lists[Text]);
+        matrix->setIconList(lists[Icon]);
+        matrix->setToolTips(lists[ToolTip]);
+        matrix->setActionList(lists[Action]);
+    } else if (auto *popButtons = qobject_cast<MatrixPopButtons *>(widget)) {
+        QVector<Field> fields = popCellFields;
+        bool hasTextList = false;
+        const QStringList texts = stringListProperty(domWidget, textListProperty, &hasTextList);
+        if (!hasTextList)
+            fields.append(Text); // a file written by hand may keep the texts in the items
+        Lists lists = readItems(domWidget, fields);
+        if (hasTextList)
+            lists[Text] = texts;
+        padLists(lists, {Text, Icon, ToolTip, Action});
+        popButtons->setTextList(lists[Text]);
+        popButtons->setIconList(lists[Icon]);
+        popButtons->setToolTips(lists[ToolTip]);
+        popButtons->setActionList(lists[Action]);
+    } else if (auto *comboBox = qobject_cast<ComboBox *>(widget)) {
+        QStringList actions = readItems(domWidget, {Action})[Action];
+        comboBox->setActionList(actions);
+    } else if (auto *group = qobject_cast<DrawbackBoxGroup *>(widget)) {
+        loadPageGroup(domWidget, group);
+    }
+}
+
+} // namespace VoCc

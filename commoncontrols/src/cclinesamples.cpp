@@ -1,0 +1,18 @@
+#include "cclinesamples.h"
+
+#include <QPainter>
+#include <QPixmap>
+
+namespace VoCc {
+
+QIcon lineSampleIcon(Qt::PenStyle style, int width, const QColor &color)
+{
+    QPixmap pixmap(64, 16);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    painter.setPen(QPen(color, width, style, Qt::FlatCap));
+    painter.drawLine(2, 8, 61, 8);
+    return QIcon(pixmap);
+}
+
+} // namespace VoCc

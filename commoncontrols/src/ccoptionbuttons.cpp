@@ -1,0 +1,41 @@
+#include "nui/CommonControls/template/CcOptionButtons.hpp"
+
+#include "ccbuttonrow.h"
+
+#include <QBoxLayout>
+#include <QToolButton>
+
+namespace VoCc {
+
+OptionButtons::OptionButtons(QWidget *parent) : AbstractOptions(parent)
+{
+    auto *layout = new QBoxLayout(QBoxLayout::LeftToRight, this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    m_row = new ButtonRow(this, layout, [] {
+        auto *button = new QToolButton;
+        button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+        button->setAutoRaise(false);
+        return button;
+    });
+}
+
+OptionButtons::~OptionButtons() { delete m_row; }
+
+Qt::Orientation OptionButtons::orientation() const
+{
+    return m_row->layout()->direction() == QBoxLayout::LeftToRight ? Qt::Horizontal : Qt::Vertical;
+}
+
+void OptionButtons::setOrientation(Qt::Orientation orientation)
+{
+    m_row->layout()->setDirection(orientation == Qt::Horizontal ? QBoxLayout::LeftToRight
+                                                                : QBoxLayout::TopToBottom);
+}
+
+QAbstractButton *OptionButtons::button(int index) const { return m_row->button(index); }
+
+void OptionButtons::rebuildEntries() { m_row->rebuild(); }
+
+void OptionButtons::showCurrentIndex(int index) { m_row->check(index); }
+
+} // namespace VoCc
