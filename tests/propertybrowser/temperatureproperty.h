@@ -1,0 +1,71 @@
+#pragma once
+
+// A property type the variant manager does not know, added by subclassing the manager and
+// the editor factory as any user of the property-browser API would.
+
+#include "qtvariantproperty.h"
+
+#include <QHash>
+#include <QMetaType>
+
+struct Temperature
+{
+    double celsius = 0.0;
+    bool operator==(const Temperature &other) const { return celsius == other.celsius; }
+    bool operator!=(const Temperature &other) const { return !(*this == other); }
+};
+Q_DECLARE_METATYPE(Temperature)
+
+class TemperaturePropertyManager : public QtVariantPropertyManager
+{
+    Q_OBJECT
+public:
+    using QtVariantPropertyManager::QtVariantPropertyManager;
+    ~TemperaturePropertyManager() override;
+
+    static int temperatureTypeId();
+
+    bool isPropertyTypeSupported(int propertyType) const override;
+    int valueType(int propertyType) const override;
+    QStringList attributes(int propertyType) const override;
+    int attributeType(int propertyType, const QString &attribute) const override;
+    QVariant value(const QtProperty *property) const override;
+    QVariant attributeValue(const QtProperty *property, const QString &attribute) const override;
+
+    // Making the protected text reachable for the tests.
+    QString text(const QtProperty *property) const { return valueText(property); }
+
+public Q_SLOTS:
+    void setValue(QtProperty *property, const QVariant &value) override;
+    void setAttribute(QtProperty *property, const QString &attribute,
+                      const QVariant &value) override;
+
+protected:
+    QString valueText(const QtProperty *property) const override;
+    void initializeProperty(QtProperty *property) override;
+    void uninitializeProperty(QtProperty *property) override;
+
+private:
+    struct Data
+    {
+        Temperature value;
+        bool fahrenheit = false;
+    };
+    QHash<const QtProperty *, Data> m_data;
+};
+
+class TemperatureEditorFactory : public QtVariantEditorFactory
+{
+    Q_OBJECT
+public:
+    using QtVariantEditorFactory::QtVariantEditorFactory;
+
+    int editorsMade() const { return m_editorsMade; }
+
+protected:
+    QWidget *createEditor(QtVariantPropertyManager *manager, QtProperty *property,
+                          QWidget *parent) override;
+
+private:
+    int m_editorsMade = 0;
+};
