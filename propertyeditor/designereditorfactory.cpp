@@ -164,7 +164,11 @@ void DesignerEditorFactory::showValue(QWidget *editor, QtProperty *property, con
     Q_UNUSED(property)
     const QSignalBlocker blocker(editor);
     if (auto *textEditor = qobject_cast<TextEditor *>(editor)) {
-        textEditor->setText(qvariant_cast<PropertySheetStringValue>(value).value());
+        // The editor the change came from already shows it; setting it again would escape
+        // a backslash the user is still typing ("\" before "n").
+        const QString text = qvariant_cast<PropertySheetStringValue>(value).value();
+        if (textEditor->text() != text)
+            textEditor->setText(text);
     } else if (auto *pixmapEditor = qobject_cast<PixmapEditor *>(editor)) {
         if (value.userType() == DesignerPropertyManager::designerIconTypeId()) {
             const auto icon = qvariant_cast<PropertySheetIconValue>(value);

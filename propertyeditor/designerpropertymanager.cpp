@@ -234,6 +234,10 @@ void DesignerPropertyManager::updateSubProperties(QtProperty *property)
             break;
         }
         }
+        // Icon parts that are set can be reset one by one.
+        if (kind >= IconTheme)
+            sub->setModified(kind == IconTheme ? !iconValue(v).theme().isEmpty()
+                                               : !pixmapValue(value(sub)).path().isEmpty());
     }
     m_updatingSubProperties = wasUpdating;
 }
@@ -278,6 +282,8 @@ void DesignerPropertyManager::slotValueChanged(QtProperty *property, const QVari
 {
     if (!m_updatingSubProperties && m_subPropertyInfo.contains(property))
         applySubProperty(property, value);
+    if (value.userType() == QMetaType::QFont && propertyType(property) == QVariant::Font)
+        markFontParts(property, qvariant_cast<QFont>(value).resolve());
     emit valueChanged(property, value, true);
 }
 
@@ -311,6 +317,14 @@ bool DesignerPropertyManager::isResettable(QtProperty *property) const
         return it->kind >= IconTheme; // icon parts reset; translation data does not
     QtProperty *font = parentProperty(property);
     return font && m_resettable.value(font, false);
+}
+
+// A font part counts as modified (and can be reset) while the font resolves it.
+void DesignerPropertyManager::markFontParts(QtProperty *font, uint resolveMask)
+{
+    const QList<QtProperty *> parts = font->subProperties();
+    for (int i = 0; i < parts.size() && i < fontPartCount; ++i)
+        parts.at(i)->setModified(resolveMask & fontParts[i].resolveBit);
 }
 
 bool DesignerPropertyManager::resetFontSubProperty(QtProperty *property)

@@ -100,6 +100,7 @@ private:
     void createSubProperties(QtProperty *property, int type);
     void updateSubProperties(QtProperty *property);
     void applySubProperty(QtProperty *sub, const QVariant &value);
+    void markFontParts(QtProperty *font, uint resolveMask);
     QIcon iconFor(const QVariant &value) const;
 
     QDesignerFormEditorInterface *m_core;

@@ -131,6 +131,8 @@ void ItemListEditor::on_deleteListItemButton_clicked()
         --row;
     if (row < 0)
         updateEditor();
+    else if (ui.listWidget->currentRow() == row)
+        updateEditor(); // the list moved the selection here while the item was still there
     else
         ui.listWidget->setCurrentRow(row);
 }

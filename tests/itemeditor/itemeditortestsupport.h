@@ -1,0 +1,105 @@
+#pragma once
+
+// Helpers shared by the item editor tests: a property table with one row of every kind, a
+// test picture on disk, opening a property's editor in the pane as a user would, and
+// answering a modal dialog from a timer.
+
+#include "designerpropertymanager.h"
+#include "propertydefinition.h"
+#include "qttreepropertybrowser.h"
+#include "qtvariantproperty.h"
+
+#include <QApplication>
+#include <QColor>
+#include <QElapsedTimer>
+#include <QPainter>
+#include <QPixmap>
+#include <QTest>
+#include <QTimer>
+#include <QWidget>
+#include <functional>
+
+namespace CcTest {
+
+inline const qdesigner_internal::PropertyDefinition *allItemProperties()
+{
+    using qdesigner_internal::DesignerPropertyManager;
+    static const qdesigner_internal::PropertyDefinition table[] = {
+            {Qt::DisplayPropertyRole, 0, DesignerPropertyManager::designerStringTypeId, "text"},
+            {Qt::DecorationPropertyRole, 0, DesignerPropertyManager::designerIconTypeId, "icon"},
+            {Qt::ToolTipPropertyRole, 0, DesignerPropertyManager::designerStringTypeId, "toolTip"},
+            {Qt::StatusTipPropertyRole, 0, DesignerPropertyManager::designerStringTypeId,
+             "statusTip"},
+            {Qt::WhatsThisPropertyRole, 0, DesignerPropertyManager::designerStringTypeId,
+             "whatsThis"},
+            {Qt::FontRole, QVariant::Font, nullptr, "font"},
+            {Qt::CheckStateRole, 0, QtVariantPropertyManager::enumTypeId, "checkState"},
+            {qdesigner_internal::ItemFlagsRole, 0, QtVariantPropertyManager::flagTypeId, "flags"},
+            {0, 0, nullptr, nullptr}};
+    return table;
+}
+
+// A small coloured square saved as PNG at path.
+inline bool writeTestPicture(const QString &path, const QColor &color)
+{
+    QPixmap pixmap(16, 16);
+    pixmap.fill(color);
+    QPainter painter(&pixmap);
+    painter.drawRect(0, 0, 15, 15);
+    painter.end();
+    return pixmap.save(path, "PNG");
+}
+
+// Lets queued work and deferred deletions (closed editors) happen.
+inline void settle()
+{
+    QApplication::processEvents();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QApplication::processEvents();
+}
+
+// Opens the value editor of a shown property and returns the first widget of type T in it.
+template<class T>
+T *openEditor(QtTreePropertyBrowser *browser, QtProperty *property)
+{
+    QtBrowserItem *item = nullptr;
+    const QList<QtBrowserItem *> items = browser->items(property);
+    if (!items.isEmpty())
+        item = items.first();
+    if (!item)
+        return nullptr;
+    browser->editItem(item);
+    settle();
+    const QList<T *> editors = browser->findChildren<T *>();
+    for (T *editor : editors) {
+        if (editor->isVisibleTo(browser))
+            return editor;
+    }
+    return editors.isEmpty() ? nullptr : editors.first();
+}
+
+// Runs act on the next modal dialog of type T as soon as it is shown (then it is up to act
+// to accept or reject it). Returns a flag that tells whether it ran.
+template<class T>
+std::shared_ptr<bool> whenModal(std::function<void(T *)> act)
+{
+    auto done = std::make_shared<bool>(false);
+    auto *timer = new QTimer;
+    auto clock = std::make_shared<QElapsedTimer>();
+    clock->start();
+    QObject::connect(timer, &QTimer::timeout, [timer, act, done, clock] {
+        if (T *dialog = qobject_cast<T *>(QApplication::activeModalWidget())) {
+            timer->stop();
+            timer->deleteLater();
+            *done = true;
+            act(dialog);
+        } else if (clock->elapsed() > 10000) {
+            timer->stop();
+            timer->deleteLater();
+        }
+    });
+    timer->start(20);
+    return done;
+}
+
+} // namespace CcTest
