@@ -17,6 +17,21 @@
 
 using CcPropertyBrowserDetail::DialogValueEditor;
 
+namespace {
+
+// A check box filling the value cell: a click anywhere in the cell toggles it, not only
+// on the box or its text.
+class CellCheckBox : public QCheckBox
+{
+public:
+    using QCheckBox::QCheckBox;
+
+protected:
+    bool hitButton(const QPoint &pos) const override { return rect().contains(pos); }
+};
+
+} // namespace
+
 // An editor made by the factory stays bound to its property: it shows every new value and
 // attribute of it, and writes what the user enters through the manager.
 class QtVariantEditorFactoryPrivate
@@ -129,7 +144,7 @@ void QtVariantEditorFactoryPrivate::propertyDestroyed(QtProperty *property)
 QWidget *QtVariantEditorFactoryPrivate::createBoolEditor(QtVariantProperty *property,
                                                          QWidget *parent)
 {
-    auto *editor = new QCheckBox(parent);
+    auto *editor = new CellCheckBox(parent);
     auto show = [editor, property](const QVariant &value) {
         editor->setChecked(value.toBool());
         editor->setText(property->valueText());
