@@ -8,6 +8,7 @@
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QMouseEvent>
+#include <QSignalBlocker>
 #include <QStandardItemModel>
 
 namespace VoCc {
@@ -31,6 +32,7 @@ CheckableTextComboBox::CheckableTextComboBox(QWidget *parent)
     connect(m_model, &QStandardItemModel::itemChanged, this, [this] {
         if (m_updating)
             return;
+        m_checkedTexts = checkedTexts();
         updateSummary();
         emit checkedTextsChanged(checkedTexts());
     });
@@ -83,6 +85,7 @@ QStringList CheckableTextComboBox::checkedTexts() const
 
 void CheckableTextComboBox::setCheckedTexts(const QStringList &texts)
 {
+    m_checkedTexts = texts;
     m_updating = true;
     for (int i = 0; i < m_model->rowCount(); ++i)
         setChecked(i, texts.contains(m_model->item(i)->text()));
@@ -110,13 +113,12 @@ bool CheckableTextComboBox::eventFilter(QObject *watched, QEvent *event)
 
 void CheckableTextComboBox::rebuildItems()
 {
-    const QStringList checked = checkedTexts();
     m_updating = true;
     m_model->clear();
     for (const QString &text : qAsConst(m_itemTextList)) {
         auto *item = new QStandardItem(text);
         item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsUserCheckable);
-        item->setCheckState(checked.contains(text) ? Qt::Checked : Qt::Unchecked);
+        item->setCheckState(m_checkedTexts.contains(text) ? Qt::Checked : Qt::Unchecked);
         m_model->appendRow(item);
     }
     m_updating = false;
@@ -132,8 +134,12 @@ void CheckableTextComboBox::applyToolTips()
 
 void CheckableTextComboBox::updateSummary()
 {
-    // Picking an entry in an editable combo writes its text into the line edit; the summary
-    // of the checked texts replaces it at once.
+    // The combo box has no current entry, or it would write that entry's text into the line
+    // edit whenever the entry changes; the summary of the checked texts stands there instead.
+    if (m_comboBox->currentIndex() != -1) {
+        const QSignalBlocker blocker(m_comboBox);
+        m_comboBox->setCurrentIndex(-1);
+    }
     m_comboBox->lineEdit()->setText(checkedTexts().join(QStringLiteral(", ")));
     m_comboBox->lineEdit()->setCursorPosition(0);
 }

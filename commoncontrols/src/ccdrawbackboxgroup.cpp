@@ -57,13 +57,19 @@ void DrawbackBoxGroup::insertPage(int index, QWidget *page)
     placeBoxes();
 
     const int previous = m_currentIndex;
-    if (m_currentIndex < 0)
+    if (m_pendingIndex >= 0 && m_pendingIndex < count()) {
+        m_currentIndex = m_pendingIndex;
+        m_pendingIndex = -1;
+    } else if (m_currentIndex < 0) {
         m_currentIndex = 0;
-    else if (index <= m_currentIndex)
+    } else if (index <= m_currentIndex) {
         ++m_currentIndex; // the current page stays current
+    }
     updateBoxes();
     pageBox->show();
-    if (previous < 0)
+    // Also when a page inserted in front shifts the current one: the index is what listeners
+    // hold on to.
+    if (previous != m_currentIndex)
         emit currentIndexChanged(m_currentIndex);
 }
 
@@ -144,7 +150,14 @@ int DrawbackBoxGroup::replaceBoxes(const QList<DrawbackBox *> &boxes)
 
 void DrawbackBoxGroup::setCurrentIndex(int index)
 {
-    if (index < 0 || index >= count() || index == m_currentIndex)
+    if (index < 0)
+        return;
+    if (index >= count()) {
+        m_pendingIndex = index;
+        return;
+    }
+    m_pendingIndex = -1;
+    if (index == m_currentIndex)
         return;
     m_currentIndex = index;
     updateBoxes();

@@ -40,6 +40,9 @@ void Pane::setExpanded(bool expanded)
             findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
     if (expanded) {
         setMaximumHeight(m_expandedMaximumHeight);
+        // Inside a layout the layout gives the height back; a free pane takes its own.
+        if (!parentWidget() || !parentWidget()->layout())
+            resize(width(), qMax(m_expandedHeight, minimumSizeHint().height()));
         for (QWidget *child : children) {
             if (!child->property("ccPaneHidden").toBool())
                 child->show();
@@ -47,6 +50,7 @@ void Pane::setExpanded(bool expanded)
         }
     } else {
         m_expandedMaximumHeight = maximumHeight();
+        m_expandedHeight = height();
         for (QWidget *child : children) {
             if (child->isHidden())
                 child->setProperty("ccPaneHidden", true);

@@ -71,7 +71,7 @@ QToolButton *makePinButton(QWidget *parent)
 {
     auto *button = new QToolButton(parent);
     button->setCheckable(true);
-    button->setText(QStringLiteral("\U0001F4CC"));
+    button->setText(TemplateField::tr("Pin"));
     button->setToolTip(TemplateField::tr("Keep the picked entity"));
     return button;
 }

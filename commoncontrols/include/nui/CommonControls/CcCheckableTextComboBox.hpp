@@ -48,6 +48,8 @@ private:
     QStandardItemModel *m_model = nullptr;
     QStringList m_itemTextList;
     QStringList m_toolTips;
+    // The texts to check, kept across a change of the entries (and set before any exist).
+    QStringList m_checkedTexts;
     bool m_updating = false;
 };
 

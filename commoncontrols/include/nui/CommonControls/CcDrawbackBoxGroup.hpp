@@ -52,6 +52,8 @@ public:
     int replaceBoxes(const QList<DrawbackBox *> &boxes);
 
 public slots:
+    // An index beyond the pages so far is remembered and applied once that page is added,
+    // so a current page set before the pages (as form loaders do) still takes effect.
     void setCurrentIndex(int index);
 
 signals:
@@ -66,6 +68,7 @@ private:
     QVBoxLayout *m_layout = nullptr;
     QList<DrawbackBox *> m_boxes;
     int m_currentIndex = -1;
+    int m_pendingIndex = -1;
 };
 
 } // namespace VoCc

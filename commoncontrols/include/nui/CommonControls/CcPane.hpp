@@ -42,6 +42,7 @@ private:
     QString m_title;
     bool m_expanded = true;
     int m_expandedMaximumHeight = QWIDGETSIZE_MAX;
+    int m_expandedHeight = 0;
 };
 
 } // namespace VoCc
