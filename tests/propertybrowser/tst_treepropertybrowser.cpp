@@ -11,7 +11,9 @@
 #include <QCheckBox>
 #include <QColorDialog>
 #include <QComboBox>
+#include <QFontDialog>
 #include <QHeaderView>
+#include <QKeySequenceEdit>
 #include <QLineEdit>
 #include <QPointer>
 #include <QSignalSpy>
@@ -108,6 +110,7 @@ private slots:
     void editNumbersChecksAndChoices();
     void editFontThroughSubProperty();
     void editColorInDialog();
+    void editFontInDialogAndKeySequence();
     void customTypeEditor();
     void columns();
     void expandAndCurrent();
@@ -477,6 +480,50 @@ void TestTreePropertyBrowser::editColorInDialog()
     QCOMPARE(color->value().value<QColor>(), QColor(0, 128, 255));
 }
 
+void TestTreePropertyBrowser::editFontInDialogAndKeySequence()
+{
+    Pane pane;
+    QtTreePropertyBrowser *browser = pane.browser.get();
+    QtVariantProperty *font = pane.add(QMetaType::QFont, QStringLiteral("font"));
+    QtVariantProperty *shortcut = pane.add(QMetaType::QKeySequence, QStringLiteral("shortcut"));
+    pane.show();
+
+    QWidget *editor = openEditor(browser, browser->topLevelItem(font));
+    QVERIFY(editor);
+    bool dialogSeen = false;
+    QTimer::singleShot(0, this, [&dialogSeen] {
+        auto *dialog = qobject_cast<QFontDialog *>(QApplication::activeModalWidget());
+        if (!dialog)
+            return;
+        dialogSeen = true;
+        QFont chosen = dialog->currentFont();
+        chosen.setPointSize(31);
+        chosen.setUnderline(true);
+        dialog->setCurrentFont(chosen);
+        dialog->accept();
+    });
+    QTest::mouseClick(editor->findChild<QToolButton *>(), Qt::LeftButton);
+    QVERIFY(dialogSeen);
+    QCOMPARE(font->value().value<QFont>().pointSize(), 31);
+    QVERIFY(font->value().value<QFont>().underline());
+    QtBrowserItem *fontItem = browser->topLevelItem(font);
+    QCOMPARE(rowOf(browser, fontItem->children().at(1))->text(1), QStringLiteral("31"));
+    QCOMPARE(rowOf(browser, fontItem->children().at(4))->text(1), QStringLiteral("True"));
+
+    // The window system hands the activation back once the dialog is gone.
+    QApplication::setActiveWindow(browser);
+    QVERIFY(QTest::qWaitForWindowActive(browser));
+    auto *keys =
+            qobject_cast<QKeySequenceEdit *>(openEditor(browser, browser->topLevelItem(shortcut)));
+    QVERIFY(keys);
+    QTRY_VERIFY(keys->hasFocus() || keys->isAncestorOf(QApplication::focusWidget()));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_K, Qt::ControlModifier);
+    // The key sequence is taken once the user pauses.
+    QTRY_COMPARE(shortcut->value().value<QKeySequence>(), QKeySequence(Qt::CTRL | Qt::Key_K));
+    QCOMPARE(rowOf(browser, browser->topLevelItem(shortcut))->text(1),
+             QKeySequence(Qt::CTRL | Qt::Key_K).toString(QKeySequence::NativeText));
+}
+
 void TestTreePropertyBrowser::customTypeEditor()
 {
     TemperaturePropertyManager manager;
@@ -593,17 +640,23 @@ void TestTreePropertyBrowser::expandAndCurrent()
     QCOMPARE(treeOf(browser)->currentItem(), rowOf(browser, xItem));
     QCOMPARE(current.count(), 1);
 
-    // Clicking a row makes it current; removing the current row leaves none.
+    // Clicking a row makes it current; removing the current row moves the current item on.
     pane.show();
     clickCell(browser, rowOf(browser, browser->topLevelItem(other)), 0);
     QCOMPARE(browser->currentItem(), browser->topLevelItem(other));
     // Editing starts in the value column even when the name was clicked.
     QVERIFY(qobject_cast<QSpinBox *>(
             treeOf(browser)->indexWidget(treeOf(browser)->currentIndex())));
+    QtBrowserItem *removed = browser->topLevelItem(other);
+    current.clear();
     browser->removeProperty(other);
-    QVERIFY(browser->currentItem() != nullptr || true);
     QVERIFY(!browser->topLevelItem(other));
-    QVERIFY(browser->currentItem() == nullptr || browser->currentItem()->property() != other);
+    // The current item moved on to a live item of the browser, or to none.
+    QtBrowserItem *now = browser->currentItem();
+    QVERIFY(now != removed);
+    QVERIFY(!now || browser->items(now->property()).contains(now));
+    QVERIFY(!current.isEmpty());
+    QCOMPARE(current.constLast().at(0).value<QtBrowserItem *>(), now);
     browser->editItem(xItem);
     QCOMPARE(browser->currentItem(), xItem);
     QVERIFY(qobject_cast<QSpinBox *>(
