@@ -1,29 +1,51 @@
 #pragma once
 
-#include "customwidgetbase.h"
+#include "widgetpluginimpl.h"
 #include "widgetpluginrow.h"
 
+#include <QIcon>
 #include <QObject>
 #include <QVariant>
+#include <QtUiPlugin/QDesignerCustomWidgetInterface>
 
 class QtResourceSet;
 
 // Each widget plug-in is a small QObject of its own (its meta-object carries its class name
 // and the slots it needs); everything else comes from its table row through
-// CustomWidgetBase. The slots are declared with Q_SLOTS so that moc sees them through the
+// WidgetPluginImpl. The slots are declared with Q_SLOTS so that moc sees them through the
 // macros.
 
 // clang-format off
 #define CC_WIDGET_PLUGIN_BEGIN(Class)                                                      \
-    class Class : public QObject, public CustomWidgetBase                                  \
+    class Class : public QObject, public QDesignerCustomWidgetInterface                    \
     {                                                                                      \
         Q_OBJECT                                                                           \
         Q_INTERFACES(QDesignerCustomWidgetInterface)                                       \
     public:                                                                                \
         explicit Class(QObject *parent = nullptr)                                          \
-            : QObject(parent), CustomWidgetBase(this, widgetPluginRow(&staticMetaObject)) \
+            : QObject(parent), m_impl(this, widgetPluginRow(&staticMetaObject))            \
         {                                                                                  \
-        }
+        }                                                                                  \
+        QString name() const override { return m_impl.name(); }                            \
+        QString group() const override { return m_impl.group(); }                          \
+        QString toolTip() const override { return m_impl.toolTip(); }                      \
+        QString whatsThis() const override { return m_impl.whatsThis(); }                  \
+        QString includeFile() const override { return m_impl.includeFile(); }              \
+        QIcon icon() const override { return m_impl.icon(); }                              \
+        bool isContainer() const override { return m_impl.isContainer(); }                 \
+        QWidget *createWidget(QWidget *parent) override                                    \
+        {                                                                                  \
+            return m_impl.createWidget(parent);                                            \
+        }                                                                                  \
+        bool isInitialized() const override { return m_impl.isInitialized(); }             \
+        void initialize(QDesignerFormEditorInterface *core) override                       \
+        {                                                                                  \
+            m_impl.initialize(core);                                                       \
+        }                                                                                  \
+        QString domXml() const override { return m_impl.domXml(); }                        \
+                                                                                           \
+    private:                                                                               \
+        WidgetPluginImpl m_impl;
 
 #define CC_WIDGET_PLUGIN_END };
 
@@ -34,7 +56,10 @@ class QtResourceSet;
 #define CC_REPAINTING_WIDGET_PLUGIN(Class)                                                  \
     CC_WIDGET_PLUGIN_BEGIN(Class)                                                          \
     private Q_SLOTS:                                                                       \
-        void propertyChanged(const QString &, const QVariant &) { repaintEditedWidget(); } \
+        void propertyChanged(const QString &, const QVariant &)                            \
+        {                                                                                  \
+            m_impl.repaintEditedWidget();                                                  \
+        }                                                                                  \
     CC_WIDGET_PLUGIN_END
 
 // A button-matrix plug-in: repaints on property edits and rebuilds the push-button matrices
@@ -42,12 +67,15 @@ class QtResourceSet;
 #define CC_MATRIX_WIDGET_PLUGIN(Class)                                                      \
     CC_WIDGET_PLUGIN_BEGIN(Class)                                                          \
     private Q_SLOTS:                                                                       \
-        void propertyChanged(const QString &, const QVariant &) { repaintEditedWidget(); } \
+        void propertyChanged(const QString &, const QVariant &)                            \
+        {                                                                                  \
+            m_impl.repaintEditedWidget();                                                  \
+        }                                                                                  \
         void resourceSetActivated(QtResourceSet *resourceSet, bool resourceSetChanged)     \
         {                                                                                  \
             Q_UNUSED(resourceSet)                                                          \
             Q_UNUSED(resourceSetChanged)                                                   \
-            reapplyPushButtonMatrices();                                                   \
+            m_impl.reapplyPushButtonMatrices();                                            \
         }                                                                                  \
     CC_WIDGET_PLUGIN_END
 
@@ -78,13 +106,13 @@ CC_WIDGET_PLUGIN(ComboBoxPlugin)
 
 // The page group follows its groups' page switches and title changes on the form.
 CC_WIDGET_PLUGIN_BEGIN(DrawbackBoxGroupPlugin)
-private Q_SLOTS:
-void currentIndexChanged(int index) { selectCurrentPage(sender(), index); }
-void pageTitleChanged(const QString &title)
-{
-    Q_UNUSED(title)
-    markCurrentPageTitleChanged(sender());
-}
+    private Q_SLOTS:
+        void currentIndexChanged(int index) { m_impl.selectCurrentPage(sender(), index); }
+        void pageTitleChanged(const QString &title)
+        {
+            Q_UNUSED(title)
+            m_impl.markCurrentPageTitleChanged(sender());
+        }
 CC_WIDGET_PLUGIN_END
 
 CC_WIDGET_PLUGIN(FormPlugin)

@@ -1,4 +1,4 @@
-#include "customwidgetbase.h"
+#include "widgetpluginimpl.h"
 
 #include "widgetpluginrow.h"
 
@@ -33,33 +33,33 @@ void reapplyPushButtonMatrices(QObject *object)
 
 } // namespace
 
-CustomWidgetBase::CustomWidgetBase(QObject *plugin, const WidgetPluginRow *row)
+WidgetPluginImpl::WidgetPluginImpl(QObject *plugin, const WidgetPluginRow *row)
     : m_plugin(plugin), m_row(row)
 {
     Q_ASSERT(row);
 }
 
-QString CustomWidgetBase::name() const { return QLatin1String(m_row->name); }
+QString WidgetPluginImpl::name() const { return QLatin1String(m_row->name); }
 
-QString CustomWidgetBase::group() const { return QLatin1String(m_row->group); }
+QString WidgetPluginImpl::group() const { return QLatin1String(m_row->group); }
 
-QString CustomWidgetBase::toolTip() const
+QString WidgetPluginImpl::toolTip() const
 {
     return m_row->toolTip ? QString(QLatin1String(m_row->toolTip)) : QString();
 }
 
-QString CustomWidgetBase::whatsThis() const
+QString WidgetPluginImpl::whatsThis() const
 {
     return m_row->toolTip ? QString(QLatin1String("")) : QString();
 }
 
-QString CustomWidgetBase::includeFile() const { return QLatin1String(m_row->includeFile); }
+QString WidgetPluginImpl::includeFile() const { return QLatin1String(m_row->includeFile); }
 
-QIcon CustomWidgetBase::icon() const { return QIcon(); }
+QIcon WidgetPluginImpl::icon() const { return QIcon(); }
 
-bool CustomWidgetBase::isContainer() const { return m_row->container; }
+bool WidgetPluginImpl::isContainer() const { return m_row->container; }
 
-QWidget *CustomWidgetBase::createWidget(QWidget *parent)
+QWidget *WidgetPluginImpl::createWidget(QWidget *parent)
 {
     const bool followsEditor = m_row->tracking == Tracking::PropertyEditor
             || m_row->tracking == Tracking::PropertyEditorAndResources;
@@ -84,9 +84,9 @@ QWidget *CustomWidgetBase::createWidget(QWidget *parent)
     return widget;
 }
 
-bool CustomWidgetBase::isInitialized() const { return m_initialized; }
+bool WidgetPluginImpl::isInitialized() const { return m_initialized; }
 
-void CustomWidgetBase::initialize(QDesignerFormEditorInterface *core)
+void WidgetPluginImpl::initialize(QDesignerFormEditorInterface *core)
 {
     if (m_initialized)
         return;
@@ -99,7 +99,7 @@ void CustomWidgetBase::initialize(QDesignerFormEditorInterface *core)
     m_initialized = true;
 }
 
-QString CustomWidgetBase::domXml() const
+QString WidgetPluginImpl::domXml() const
 {
     const DefaultXml &xml = m_row->domXml;
     if (xml.text)
@@ -116,7 +116,7 @@ QString CustomWidgetBase::domXml() const
     return text;
 }
 
-void CustomWidgetBase::repaintEditedWidget() const
+void WidgetPluginImpl::repaintEditedWidget() const
 {
     if (!m_propertyEditor)
         return;
@@ -126,7 +126,7 @@ void CustomWidgetBase::repaintEditedWidget() const
         static_cast<QWidget *>(object)->update();
 }
 
-void CustomWidgetBase::reapplyPushButtonMatrices() const
+void WidgetPluginImpl::reapplyPushButtonMatrices() const
 {
     if (!m_core)
         return;
@@ -134,7 +134,7 @@ void CustomWidgetBase::reapplyPushButtonMatrices() const
         ::reapplyPushButtonMatrices(formWindow);
 }
 
-void CustomWidgetBase::selectCurrentPage(QObject *sender, int index) const
+void WidgetPluginImpl::selectCurrentPage(QObject *sender, int index) const
 {
     auto *group = qobject_cast<VoCc::DrawbackBoxGroup *>(sender);
     if (!group)
@@ -145,7 +145,7 @@ void CustomWidgetBase::selectCurrentPage(QObject *sender, int index) const
         formWindow->selectWidget(group->widget(index), true);
 }
 
-void CustomWidgetBase::markCurrentPageTitleChanged(QObject *sender) const
+void WidgetPluginImpl::markCurrentPageTitleChanged(QObject *sender) const
 {
     auto *group = qobject_cast<VoCc::DrawbackBoxGroup *>(sender);
     if (!group)
