@@ -58,7 +58,14 @@ QString AbstractOptions::currentData() const { return dataAt(m_currentIndex); }
 
 void AbstractOptions::setCurrentIndex(int index)
 {
-    if (index < -1 || index >= count() || index == m_currentIndex)
+    if (index < -1)
+        return;
+    if (index >= count()) {
+        m_pendingIndex = index;
+        return;
+    }
+    m_pendingIndex = -1;
+    if (index == m_currentIndex)
         return;
     m_currentIndex = index;
     showCurrentIndex(index);
@@ -70,6 +77,10 @@ void AbstractOptions::updateGeomtries()
     // A shrunk list may leave the current entry behind; a first list makes its first entry
     // current, like a combo box does.
     int current = m_currentIndex;
+    if (m_pendingIndex >= 0 && m_pendingIndex < count()) {
+        current = m_pendingIndex;
+        m_pendingIndex = -1;
+    }
     if (current >= count())
         current = count() - 1;
     if (current < 0 && count() > 0)

@@ -44,6 +44,8 @@
 
 #include <QtDesigner/private/ui4_p.h>
 
+#include <QMetaEnum>
+
 namespace VoCc {
 
 namespace {
@@ -265,6 +267,25 @@ bool FormBuilder::addItem(DomWidget *domWidget, QWidget *widget, QWidget *parent
 void FormBuilder::saveExtraInfo(QWidget *widget, DomWidget *domWidget, DomWidget *domParentWidget)
 {
     QFormBuilder::saveExtraInfo(widget, domWidget, domParentWidget);
+    // The base writer keeps the items of QComboBox itself only; Designer writes those of a
+    // subclass, so here the texts are written before the actions join them.
+    auto *comboBox = qobject_cast<ComboBox *>(widget);
+    if (comboBox && domWidget->elementItem().isEmpty()) {
+        Lists texts;
+        for (int i = 0; i < comboBox->count(); ++i)
+            texts[Text].append(comboBox->itemText(i));
+        writeItems(domWidget, texts, {Text});
+        // An empty text leaves an empty item, which would load as nothing: keep it a text.
+        const QVector<DomItem *> items = domWidget->elementItem();
+        for (DomItem *item : items) {
+            if (item->elementProperty().isEmpty()) {
+                auto *property = new DomProperty;
+                property->setAttributeName(fieldName(Text));
+                property->setElementString(new DomString);
+                item->setElementProperty({property});
+            }
+        }
+    }
     saveExtraInfo(domWidget, widget, nullptr);
 }
 
@@ -291,6 +312,40 @@ DomWidget *FormBuilder::createDom(QWidget *widget, DomWidget *domParentWidget, b
     }
     // A control's inner widgets and layout are not form content.
     return QFormBuilder::createDom(widget, domParentWidget, false);
+}
+
+QList<DomProperty *> FormBuilder::computeProperties(QObject *object)
+{
+    // The base writer would save flags as a plain enum, with a warning for each; they are
+    // left to it only as sets of scoped keys, which it reads back.
+    QList<DomProperty *> properties = QFormBuilder::computeProperties(object);
+    const QMetaObject *meta = object->metaObject();
+    for (int i = 0; i < meta->propertyCount(); ++i) {
+        const QMetaProperty property = meta->property(i);
+        if (!property.isFlagType() || !property.isWritable() || !property.isDesignable(object))
+            continue;
+        const QMetaEnum flags = property.enumerator();
+        const int bits = property.read(object).toInt();
+        if (bits == 0)
+            continue; // no flag set: the default, nothing to write
+        QStringList keys;
+        for (const QByteArray &key : flags.valueToKeys(bits).split('|'))
+            keys.append(QLatin1String(flags.scope()) + QLatin1String("::") + QLatin1String(key));
+        auto *domProperty = new DomProperty;
+        domProperty->setAttributeName(QLatin1String(property.name()));
+        domProperty->setElementSet(keys.join(QLatin1Char('|')));
+        properties.append(domProperty);
+    }
+    return properties;
+}
+
+bool FormBuilder::checkProperty(QObject *object, const QString &propertyName) const
+{
+    const QMetaObject *meta = object->metaObject();
+    const int index = meta->indexOfProperty(propertyName.toLatin1().constData());
+    if (index >= 0 && meta->property(index).isFlagType())
+        return false; // written by computeProperties
+    return QFormBuilder::checkProperty(object, propertyName);
 }
 
 void FormBuilder::saveExtraInfo(DomWidget *domWidget, QWidget *widget, void *context)

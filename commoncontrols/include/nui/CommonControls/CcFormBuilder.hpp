@@ -6,6 +6,7 @@
 #include <QStringList>
 
 QT_BEGIN_NAMESPACE
+class DomProperty;
 class DomWidget;
 QT_END_NAMESPACE
 
@@ -67,6 +68,8 @@ protected:
     using QFormBuilder::addItem;
     void saveExtraInfo(QWidget *widget, DomWidget *domWidget, DomWidget *domParentWidget) override;
     DomWidget *createDom(QWidget *widget, DomWidget *domParentWidget, bool recursive) override;
+    QList<DomProperty *> computeProperties(QObject *object) override;
+    bool checkProperty(QObject *object, const QString &propertyName) const override;
     using QFormBuilder::createDom;
 
 private:

@@ -44,6 +44,8 @@ public:
     Q_INVOKABLE void updateGeomtries();
 
 public slots:
+    // An index beyond the entries so far is remembered and applied once there are enough of
+    // them, so a current entry set before the entries (as form loaders do) still counts.
     void setCurrentIndex(int index);
 
 signals:
@@ -63,6 +65,7 @@ private:
     QStringList m_toolTips;
     QStringList m_dataList;
     int m_currentIndex = -1;
+    int m_pendingIndex = -1;
 };
 
 } // namespace VoCc

@@ -1,0 +1,595 @@
+// VoCc::FormBuilder: the entries of the list-like widgets through .ui text and back.
+#include <nui/CommonControls/CcComboBox.hpp>
+#include <nui/CommonControls/CcDrawbackBoxGroup.hpp>
+#include <nui/CommonControls/CcFormBuilder.hpp>
+#include <nui/CommonControls/CcLineEditEx.hpp>
+#include <nui/CommonControls/CcMatrixButtons.hpp>
+#include <nui/CommonControls/CcMatrixPopButtons.hpp>
+#include <nui/CommonControls/CcPane.hpp>
+#include <nui/CommonControls/template/CcOptionButtons.hpp>
+#include <nui/CommonControls/template/CcOptionCheckBox.hpp>
+#include <nui/CommonControls/template/CcOptionComboBox.hpp>
+#include <nui/CommonControls/template/CcOptionRadios.hpp>
+
+#include <QtDesigner/private/ui4_p.h>
+
+#include <QAbstractButton>
+#include <QBuffer>
+#include <QComboBox>
+#include <QFile>
+#include <QMenu>
+#include <QScopedPointer>
+#include <QTest>
+#include <QToolButton>
+#include <QXmlStreamReader>
+
+using namespace VoCc;
+
+namespace {
+
+QString saveForm(QWidget *form)
+{
+    FormBuilder builder;
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    builder.save(&buffer, form);
+    return QString::fromUtf8(buffer.data());
+}
+
+QWidget *loadForm(const QString &uiText)
+{
+    FormBuilder builder;
+    QBuffer buffer;
+    buffer.setData(uiText.toUtf8());
+    buffer.open(QIODevice::ReadOnly);
+    return builder.load(&buffer);
+}
+
+// A form document holding the given widget elements.
+QString formText(const QString &body)
+{
+    return QStringLiteral(
+                   "<ui version=\"4.0\"><widget class=\"QWidget\" name=\"Form\">%1</widget></ui>")
+            .arg(body);
+}
+
+QString nameOf(const DomWidget *element)
+{
+    if (element->hasAttributeName())
+        return element->attributeName();
+    // A form written at run time names its widgets through the objectName property.
+    const QList<DomProperty *> properties = element->elementProperty();
+    for (const DomProperty *property : properties) {
+        if (property->attributeName() == QLatin1String("objectName") && property->elementString())
+            return property->elementString()->text();
+    }
+    return QString();
+}
+
+DomWidget *takeElement(DomWidget *parent, const QString &objectName)
+{
+    QVector<DomWidget *> children = parent->elementWidget();
+    for (int i = 0; i < children.size(); ++i) {
+        if (nameOf(children.at(i)) == objectName) {
+            DomWidget *found = children.takeAt(i);
+            parent->setElementWidget(children);
+            return found;
+        }
+        if (DomWidget *found = takeElement(children.at(i), objectName))
+            return found;
+    }
+    return nullptr;
+}
+
+// The <widget> element of one widget, as a DOM the extra-info functions take.
+DomWidget *elementOf(const QString &uiText, const QString &objectName)
+{
+    QXmlStreamReader reader(uiText);
+    DomUI ui;
+    while (!reader.atEnd()) {
+        if (reader.readNext() == QXmlStreamReader::StartElement) {
+            ui.read(reader);
+            break;
+        }
+    }
+    return ui.elementWidget() ? takeElement(ui.elementWidget(), objectName) : nullptr;
+}
+
+QString elementText(const DomWidget *element)
+{
+    QString text;
+    QXmlStreamWriter writer(&text);
+    element->write(writer);
+    return text;
+}
+
+// Lists padded to one length, as they read back after a round trip.
+QStringList padded(QStringList list, int size)
+{
+    while (list.size() < size)
+        list.append(QString());
+    return list;
+}
+
+const QString okIcon =
+        QStringLiteral(":/qt-project.org/styles/commonstyle/images/standardbutton-ok-16.png");
+
+struct MessageCounter
+{
+    static QStringList messages;
+    static void handler(QtMsgType type, const QMessageLogContext &, const QString &message)
+    {
+        if (type != QtDebugMsg && type != QtInfoMsg)
+            messages.append(message);
+    }
+    MessageCounter()
+    {
+        messages.clear();
+        m_previous = qInstallMessageHandler(handler);
+    }
+    ~MessageCounter() { qInstallMessageHandler(m_previous); }
+    QtMessageHandler m_previous;
+};
+QStringList MessageCounter::messages;
+
+} // namespace
+
+class TestCcFormBuilder : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void optionWidgetsRoundTrip_data();
+    void optionWidgetsRoundTrip();
+    void optionCheckBoxDefaultEntriesLoad();
+    void checkableComboBoxRoundTrip();
+    void matrixButtonsRoundTrip();
+    void matrixPopButtonsRoundTrip();
+    void comboBoxAddsOnlyActions();
+    void pageGroupRoundTrip();
+    void savingTwiceAddsNothing();
+    void badAndPartialDataLoadQuietly();
+    void unknownClassesAreReported();
+    void exampleFormLoads();
+};
+
+void TestCcFormBuilder::optionWidgetsRoundTrip_data()
+{
+    QTest::addColumn<QString>("className");
+    QTest::newRow("option combo box") << QStringLiteral("VoCc::OptionComboBox");
+    QTest::newRow("option buttons") << QStringLiteral("VoCc::OptionButtons");
+    QTest::newRow("option radios") << QStringLiteral("VoCc::OptionRadios");
+    QTest::newRow("option check box") << QStringLiteral("VoCc::OptionCheckBox");
+}
+
+void TestCcFormBuilder::optionWidgetsRoundTrip()
+{
+    QFETCH(QString, className);
+    QWidget form;
+    form.setObjectName(QStringLiteral("Form"));
+    auto *options =
+            qobject_cast<AbstractOptions *>(FormBuilder::createCommonControl(className, &form));
+    QVERIFY(options);
+    options->setObjectName(QStringLiteral("options"));
+    const QStringList texts = {QStringLiteral("One"), QString(), QStringLiteral("Three")};
+    const QStringList icons = {okIcon, QString(), QStringLiteral("/missing.png")};
+    const QStringList tips = {QStringLiteral("first")}; // shorter than the others
+    const QStringList data = {QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("3"),
+                              QStringLiteral("4")}; // longer
+    options->setTextList(texts);
+    options->setIconList(icons);
+    options->setToolTips(tips);
+    options->setDataList(data);
+    options->setCurrentIndex(2);
+
+    const QString saved = saveForm(&form);
+    // One item per entry of the longest list, in the form of the default XML.
+    QCOMPARE(saved.count(QStringLiteral("<item>")) + saved.count(QStringLiteral("<item/>")), 4);
+    QVERIFY(saved.contains(QStringLiteral("<string notr=\"true\">3</string>")));
+    QVERIFY(saved.contains(QStringLiteral("<string notr=\"false\">One</string>")));
+    QVERIFY(saved.contains(QStringLiteral("<property name=\"toolTip\">")));
+    QVERIFY(!saved.contains(QStringLiteral("name=\"action\"")));
+    // Inner widgets of the control are not form content.
+    QCOMPARE(saved.count(QStringLiteral("<widget ")), 2);
+
+    QScopedPointer<QWidget> loaded(loadForm(saved));
+    QVERIFY(loaded);
+    auto *back = loaded->findChild<AbstractOptions *>(QStringLiteral("options"));
+    QVERIFY(back);
+    QCOMPARE(QString::fromLatin1(back->metaObject()->className()), className);
+    QCOMPARE(back->textList(), padded(texts, 4));
+    QCOMPARE(back->iconList(), padded(icons, 4));
+    QCOMPARE(back->toolTips(), padded(tips, 4));
+    QCOMPARE(back->dataList(), data);
+    if (className != QLatin1String("VoCc::OptionCheckBox"))
+        QCOMPARE(back->currentIndex(), 2);
+
+    // A second cycle gives the same text.
+    QCOMPARE(saveForm(loaded.data()), saveForm(loaded.data()));
+    QScopedPointer<QWidget> again(loadForm(saveForm(loaded.data())));
+    auto *backAgain = again->findChild<AbstractOptions *>(QStringLiteral("options"));
+    QCOMPARE(backAgain->textList(), back->textList());
+    QCOMPARE(backAgain->dataList(), back->dataList());
+}
+
+void TestCcFormBuilder::optionCheckBoxDefaultEntriesLoad()
+{
+    // The default XML of a new option check box, as Designer puts it on a form.
+    const QString body = QStringLiteral(
+            "<widget class=\"VoCc::OptionCheckBox\" name=\"OptionCheckBox\">"
+            " <property name=\"id\" stdset=\"0\"><number></number></property>"
+            " <item><property name=\"data\"><string notr=\"true\">1</string></property>"
+            "  <property name=\"text\"><string notr=\"false\">Yes</string></property></item>"
+            " <item><property name=\"data\"><string notr=\"true\">0</string></property>"
+            "  <property name=\"text\"><string notr=\"false\">No</string></property></item>"
+            "</widget>");
+    QScopedPointer<QWidget> form(loadForm(formText(body)));
+    auto *box = form->findChild<OptionCheckBox *>();
+    QVERIFY(box);
+    QCOMPARE(box->textList(), (QStringList {QStringLiteral("Yes"), QStringLiteral("No")}));
+    QCOMPARE(box->dataList(), (QStringList {QStringLiteral("1"), QStringLiteral("0")}));
+    QCOMPARE(box->iconList(), (QStringList {QString(), QString()}));
+    QVERIFY(box->property("id").isValid());
+    QCOMPARE(box->currentData(), QStringLiteral("1"));
+
+    // Written back, the element holds the same two items, data before text.
+    const QString saved = saveForm(form.data());
+    const int data = saved.indexOf(QStringLiteral("<string notr=\"true\">1</string>"));
+    const int text = saved.indexOf(QStringLiteral("<string notr=\"false\">Yes</string>"));
+    QVERIFY(data > 0 && text > data);
+    QCOMPARE(saved.count(QStringLiteral("<item>")), 2);
+}
+
+void TestCcFormBuilder::checkableComboBoxRoundTrip()
+{
+    QWidget form;
+    form.setObjectName(QStringLiteral("Form"));
+    auto *box = new CheckableTextComboBox(&form);
+    box->setObjectName(QStringLiteral("check"));
+    box->setItemTextList({QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")});
+    box->setToolTips({QString(), QStringLiteral("bee")});
+    const QString saved = saveForm(&form);
+    QCOMPARE(saved.count(QStringLiteral("<item>")), 3);
+    QScopedPointer<QWidget> loaded(loadForm(saved));
+    auto *back = loaded->findChild<CheckableTextComboBox *>(QStringLiteral("check"));
+    QVERIFY(back);
+    QCOMPARE(back->itemTextList(), box->itemTextList());
+    QCOMPARE(back->toolTips(), (QStringList {QString(), QStringLiteral("bee"), QString()}));
+    QCOMPARE(back->comboBox()->count(), 3);
+}
+
+void TestCcFormBuilder::matrixButtonsRoundTrip()
+{
+    QWidget form;
+    form.setObjectName(QStringLiteral("Form"));
+    QList<AbstractMatrixOptions *> matrices = {new MatrixPushButtons(&form),
+                                               new MatrixRadioButtons(&form),
+                                               new MatrixCheckBoxes(&form)};
+    for (int m = 0; m < matrices.size(); ++m) {
+        AbstractMatrixOptions *matrix = matrices.at(m);
+        matrix->setObjectName(QStringLiteral("matrix%1").arg(m));
+        matrix->setRow(3);
+        matrix->setColumn(m + 1);
+        matrix->setTextList({QStringLiteral("t0"), QStringLiteral("t1")});
+        matrix->setIconList({QString(), okIcon});
+        matrix->setToolTips({QStringLiteral("tip0")});
+        matrix->setActionList({QStringLiteral("a0"), QString(), QStringLiteral("a2")});
+    }
+    const QString saved = saveForm(&form);
+    QScopedPointer<QWidget> loaded(loadForm(saved));
+    for (int m = 0; m < matrices.size(); ++m) {
+        auto *back = loaded->findChild<AbstractMatrixOptions *>(QStringLiteral("matrix%1").arg(m));
+        QVERIFY(back);
+        QCOMPARE(back->metaObject(), matrices.at(m)->metaObject());
+        QCOMPARE(back->row(), 3);
+        QCOMPARE(back->column(), m + 1);
+        QCOMPARE(back->textList(), padded(matrices.at(m)->textList(), 3));
+        QCOMPARE(back->iconList(), padded(matrices.at(m)->iconList(), 3));
+        QCOMPARE(back->toolTips(), padded(matrices.at(m)->toolTips(), 3));
+        QCOMPARE(back->actionList(), matrices.at(m)->actionList());
+        QCOMPARE(back->button(1)->text(), QStringLiteral("t1"));
+        QVERIFY(!back->button(1)->icon().isNull());
+    }
+
+    // The dimensions are written once each, even over properties already in the element.
+    QScopedPointer<DomWidget> element(elementOf(saved, QStringLiteral("matrix0")));
+    QVERIFY(element);
+    FormBuilder::saveExtraInfo(element.data(), matrices.at(0), nullptr);
+    const QString text = elementText(element.data());
+    QCOMPARE(text.count(QStringLiteral("name=\"row\"")), 1);
+    QCOMPARE(text.count(QStringLiteral("name=\"column\"")), 1);
+    QCOMPARE(text.count(QStringLiteral("<item>")), 3);
+}
+
+void TestCcFormBuilder::matrixPopButtonsRoundTrip()
+{
+    QWidget form;
+    form.setObjectName(QStringLiteral("Form"));
+    auto *pop = new MatrixPopButtons(&form);
+    pop->setObjectName(QStringLiteral("pop"));
+    pop->setRow(1);
+    pop->setColumn(3);
+    pop->setTextList({QStringLiteral("Line"), QStringLiteral("Arc"), QStringLiteral("Spline")});
+    pop->setIconList({okIcon});
+    pop->setToolTips({QString(), QStringLiteral("arc")});
+    pop->setActionList({QStringLiteral("drawLine"), QString(), QStringLiteral("drawSpline")});
+
+    const QString saved = saveForm(&form);
+    // The texts live in the textList property only.
+    QCOMPARE(saved.count(QStringLiteral("name=\"textList\"")), 1);
+    QVERIFY(!saved.contains(QStringLiteral("name=\"text\"")));
+    QCOMPARE(saved.count(QStringLiteral("<item>")), 3);
+
+    QScopedPointer<QWidget> loaded(loadForm(saved));
+    auto *back = loaded->findChild<MatrixPopButtons *>(QStringLiteral("pop"));
+    QVERIFY(back);
+    QCOMPARE(back->row(), 1);
+    QCOMPARE(back->column(), 3);
+    QCOMPARE(back->textList(), pop->textList());
+    QCOMPARE(back->iconList(), padded(pop->iconList(), 3));
+    QCOMPARE(back->toolTips(), padded(pop->toolTips(), 3));
+    QCOMPARE(back->actionList(), pop->actionList());
+    QCOMPARE(back->menu(2)->actions().value(0)->text(), QStringLiteral("drawSpline"));
+
+    // A hand-written file may keep the texts in the items instead.
+    const QString handWritten = formText(QStringLiteral(
+            "<widget class=\"VoCc::MatrixPopButtons\" name=\"pop\">"
+            " <property name=\"column\"><number>2</number></property>"
+            " <item><property name=\"text\"><string>A</string></property></item>"
+            " <item><property name=\"text\"><string>B</string></property>"
+            "  <property name=\"action\"><string notr=\"true\">doB</string></property></item>"
+            "</widget>"));
+    QScopedPointer<QWidget> fromItems(loadForm(handWritten));
+    auto *itemsPop = fromItems->findChild<MatrixPopButtons *>();
+    QCOMPARE(itemsPop->textList(), (QStringList {QStringLiteral("A"), QStringLiteral("B")}));
+    QCOMPARE(itemsPop->actionList(), (QStringList {QString(), QStringLiteral("doB")}));
+    QCOMPARE(itemsPop->button(1)->text(), QStringLiteral("B"));
+}
+
+void TestCcFormBuilder::comboBoxAddsOnlyActions()
+{
+    QWidget form;
+    form.setObjectName(QStringLiteral("Form"));
+    auto *combo = new ComboBox(&form);
+    combo->setObjectName(QStringLiteral("combo"));
+    combo->addItem(QIcon(okIcon), QStringLiteral("Open"));
+    combo->addItem(QStringLiteral("Save"));
+    combo->addItem(QStringLiteral("Close"));
+    combo->setActionList({QStringLiteral("fileOpen"), QString(), QStringLiteral("fileClose")});
+
+    const QString saved = saveForm(&form);
+    QCOMPARE(saved.count(QStringLiteral("<item>")), 3);
+    QCOMPARE(saved.count(QStringLiteral("name=\"action\"")), 2);
+    QScopedPointer<QWidget> loaded(loadForm(saved));
+    auto *back = loaded->findChild<ComboBox *>(QStringLiteral("combo"));
+    QVERIFY(back);
+    QCOMPARE(back->count(), 3);
+    QCOMPARE(back->itemText(2), QStringLiteral("Close"));
+    QCOMPARE(back->actionList(), combo->actionList());
+
+    // On an element whose items the writer already made (as Designer does), the actions
+    // join those items, however often the element is saved.
+    QScopedPointer<DomWidget> element(elementOf(saved, QStringLiteral("combo")));
+    for (int i = 0; i < 3; ++i)
+        FormBuilder::saveExtraInfo(element.data(), back, nullptr);
+    QCOMPARE(element->elementItem().size(), 3);
+    const QString text = elementText(element.data());
+    QCOMPARE(text.count(QStringLiteral("name=\"action\"")), 2);
+    QCOMPARE(text.count(QStringLiteral("name=\"text\"")), 3);
+    back->setActionList({});
+    FormBuilder::saveExtraInfo(element.data(), back, nullptr);
+    QVERIFY(!elementText(element.data()).contains(QStringLiteral("name=\"action\"")));
+}
+
+void TestCcFormBuilder::pageGroupRoundTrip()
+{
+    QWidget form;
+    form.setObjectName(QStringLiteral("Form"));
+    auto *group = new DrawbackBoxGroup(&form);
+    group->setObjectName(QStringLiteral("group"));
+    const QStringList titles = {QStringLiteral("Required"), QStringLiteral("Optional"),
+                                QStringLiteral("Advanced")};
+    for (int i = 0; i < titles.size(); ++i) {
+        auto *page = new QWidget;
+        page->setObjectName(QStringLiteral("page_%1").arg(i));
+        group->addPage(page);
+        group->setCurrentIndex(i);
+        group->setPageTitle(titles.at(i));
+    }
+    auto *child = new MatrixPushButtons(group->widget(1));
+    child->setObjectName(QStringLiteral("inPage"));
+    child->setTextList({QStringLiteral("x")});
+    group->setCurrentIndex(1);
+
+    const QString saved = saveForm(&form);
+    // The boxes are the group's make-up, not form content.
+    QVERIFY(!saved.contains(QStringLiteral("VoCc::DrawbackBox\"")));
+    for (const QString &title : titles)
+        QVERIFY(saved.contains(QStringLiteral("<string>%1</string>").arg(title)));
+
+    QScopedPointer<QWidget> loaded(loadForm(saved));
+    auto *back = loaded->findChild<DrawbackBoxGroup *>(QStringLiteral("group"));
+    QVERIFY(back);
+    QCOMPARE(back->count(), 3);
+    for (int i = 0; i < titles.size(); ++i) {
+        QCOMPARE(back->pageTitle(i), titles.at(i));
+        QCOMPARE(back->box(i)->title(), titles.at(i));
+        QCOMPARE(back->widget(i)->objectName(), QStringLiteral("page_%1").arg(i));
+    }
+    QCOMPARE(back->currentIndex(), 1);
+    auto *inPage = back->widget(1)->findChild<MatrixPushButtons *>(QStringLiteral("inPage"));
+    QVERIFY(inPage);
+    QCOMPARE(inPage->textList().value(0), QStringLiteral("x"));
+    // A second cycle adds no page and keeps the titles and the current page.
+    QScopedPointer<QWidget> again(loadForm(saveForm(loaded.data())));
+    auto *backAgain = again->findChild<DrawbackBoxGroup *>(QStringLiteral("group"));
+    QCOMPARE(backAgain->count(), 3);
+    QCOMPARE(backAgain->currentIndex(), 1);
+    QCOMPARE(backAgain->pageTitle(2), titles.at(2));
+
+    // Loading the element again puts the current page back once the pages exist.
+    QScopedPointer<DomWidget> element(elementOf(saved, QStringLiteral("group")));
+    back->setCurrentIndex(0);
+    FormBuilder::loadExtraInfo(element.data(), back, nullptr);
+    QCOMPARE(back->currentIndex(), 1);
+}
+
+void TestCcFormBuilder::savingTwiceAddsNothing()
+{
+    // Designer calls the save hook on an element it has already filled, and may do so for
+    // every save of the form: the element must come out the same each time.
+    QWidget form;
+    OptionRadios radios(&form);
+    radios.setTextList({QStringLiteral("a"), QStringLiteral("b")});
+    MatrixPopButtons pop(&form);
+    pop.setTextList({QStringLiteral("p")});
+    pop.setActionList({QStringLiteral("act")});
+    DrawbackBoxGroup group(&form);
+    group.addPage(new QWidget);
+    const QList<QWidget *> widgets = {&radios, &pop, &group};
+    for (QWidget *widget : widgets) {
+        DomWidget element;
+        element.setAttributeClass(QString::fromLatin1(widget->metaObject()->className()));
+        FormBuilder::saveExtraInfo(&element, widget, nullptr);
+        const QString once = elementText(&element);
+        FormBuilder::saveExtraInfo(&element, widget, nullptr);
+        QCOMPARE(elementText(&element), once);
+        // Loading what was saved changes nothing either.
+        FormBuilder::loadExtraInfo(&element, widget, nullptr);
+        FormBuilder::saveExtraInfo(&element, widget, nullptr);
+        QCOMPARE(elementText(&element), once);
+    }
+    // Null arguments are ignored.
+    FormBuilder::saveExtraInfo(nullptr, &radios, nullptr);
+    FormBuilder::loadExtraInfo(nullptr, &radios, nullptr);
+    DomWidget element;
+    FormBuilder::saveExtraInfo(&element, nullptr, nullptr);
+    QVERIFY(elementText(&element).count(QLatin1Char('<')) <= 2);
+}
+
+void TestCcFormBuilder::badAndPartialDataLoadQuietly()
+{
+    const QString body = QStringLiteral(
+            // Unequal entries, an empty item, an unknown property, numbers for strings and
+            // an icon that does not exist.
+            "<widget class=\"VoCc::OptionButtons\" name=\"buttons\">"
+            " <item><property name=\"text\"><string>A</string></property>"
+            "  <property name=\"colour\"><string>red</string></property>"
+            "  <property name=\"icon\"><string>/no/such/icon.png</string></property></item>"
+            " <item/>"
+            " <item><property name=\"data\"><number>7</number></property></item>"
+            " <item><property name=\"toolTip\"/></item>"
+            "</widget>"
+            // Items on a widget that has none, and a matrix larger than its entries.
+            "<widget class=\"VoCc::Angle\" name=\"angle\">"
+            " <item><property name=\"text\"><string>ignored</string></property></item>"
+            "</widget>"
+            "<widget class=\"VoCc::MatrixCheckBoxes\" name=\"matrix\">"
+            " <property name=\"row\"><number>4</number></property>"
+            " <property name=\"column\"><number>4</number></property>"
+            " <item><property name=\"icon\"><iconset><normaloff>/missing.png</normaloff>"
+            "/missing.png</iconset></property></item>"
+            "</widget>"
+            // A page group whose current page does not exist, pop buttons with a bad textList.
+            "<widget class=\"VoCc::DrawbackBoxGroup\" name=\"group\">"
+            " <property name=\"currentIndex\"><number>5</number></property>"
+            " <widget class=\"QWidget\" name=\"page\"/>"
+            "</widget>"
+            "<widget class=\"VoCc::MatrixPopButtons\" name=\"pop\">"
+            " <property name=\"textList\"><string>not a list</string></property>"
+            "</widget>"
+            "<widget class=\"VoCc::CheckableTextComboBox\" name=\"check\">"
+            " <item><property name=\"toolTip\"><string>only a tip</string></property></item>"
+            "</widget>");
+    MessageCounter messages;
+    QScopedPointer<QWidget> form(loadForm(formText(body)));
+    QVERIFY(form);
+    // At most one complaint about the property of the wrong type, no storm.
+    QVERIFY2(MessageCounter::messages.size() <= 1,
+             qPrintable(MessageCounter::messages.join(QLatin1Char('\n'))));
+
+    auto *buttons = form->findChild<OptionButtons *>();
+    QCOMPARE(buttons->textList(),
+             (QStringList {QStringLiteral("A"), QString(), QString(), QString()}));
+    QCOMPARE(buttons->dataList().value(2), QStringLiteral("7"));
+    QCOMPARE(buttons->iconList().value(0), QStringLiteral("/no/such/icon.png"));
+    QVERIFY(buttons->button(0)->icon().isNull());
+    QCOMPARE(buttons->toolTips(), (QStringList {QString(), QString(), QString(), QString()}));
+
+    auto *matrix = form->findChild<MatrixCheckBoxes *>();
+    QCOMPARE(matrix->buttonCount(), 16);
+    QCOMPARE(matrix->iconList(), QStringList {QStringLiteral("/missing.png")});
+    QCOMPARE(matrix->button(15)->text(), QString());
+
+    auto *group = form->findChild<DrawbackBoxGroup *>();
+    QCOMPARE(group->count(), 1);
+    QCOMPARE(group->currentIndex(), 0);
+
+    auto *pop = form->findChild<MatrixPopButtons *>();
+    QVERIFY(pop->textList().isEmpty());
+    QCOMPARE(pop->buttonCount(), 4);
+
+    auto *check = form->findChild<CheckableTextComboBox *>();
+    QCOMPARE(check->itemTextList(), QStringList {QString()});
+    QCOMPARE(check->toolTips(), QStringList {QStringLiteral("only a tip")});
+}
+
+void TestCcFormBuilder::unknownClassesAreReported()
+{
+    FormBuilder builder;
+    QBuffer buffer;
+    buffer.setData(formText(QStringLiteral("<widget class=\"VoCc::NoSuchThing\" name=\"x\"/>"
+                                           "<widget class=\"QLabel\" name=\"label\"/>"
+                                           "<widget class=\"Line\" name=\"qtLine\"/>"))
+                           .toUtf8());
+    buffer.open(QIODevice::ReadOnly);
+    MessageCounter messages;
+    QScopedPointer<QWidget> form(builder.load(&buffer));
+    QCOMPARE(builder.unknownClassNames(), QStringList {QStringLiteral("VoCc::NoSuchThing")});
+
+    // Each load starts afresh.
+    buffer.close();
+    buffer.setData(
+            formText(QStringLiteral("<widget class=\"VoCc::Line\" name=\"line\"/>")).toUtf8());
+    buffer.open(QIODevice::ReadOnly);
+    QScopedPointer<QWidget> second(builder.load(&buffer));
+    QVERIFY(builder.unknownClassNames().isEmpty());
+    QVERIFY(second->findChild<QWidget *>(QStringLiteral("line"))->inherits("VoCc::Line"));
+}
+
+void TestCcFormBuilder::exampleFormLoads()
+{
+    QFile file(QStringLiteral(CC_EXAMPLE_FORM));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    FormBuilder builder;
+    QScopedPointer<QWidget> form(builder.load(&file));
+    QVERIFY(form);
+    QVERIFY(builder.unknownClassNames().isEmpty());
+
+    // Every class of the library is on it.
+    QSet<QString> classes;
+    const QList<QWidget *> widgets = form->findChildren<QWidget *>();
+    for (const QWidget *widget : widgets)
+        classes.insert(QString::fromLatin1(widget->metaObject()->className()));
+    classes.insert(QString::fromLatin1(form->metaObject()->className()));
+    for (const QString &name : FormBuilder::widgetClassNames())
+        QVERIFY2(classes.contains(name), qPrintable(name));
+
+    auto *group = form->findChild<DrawbackBoxGroup *>();
+    QCOMPARE(group->count(), 3);
+    QCOMPARE(group->currentIndex(), 1);
+    QCOMPARE(group->pageTitle(0), QStringLiteral("Lists"));
+    auto *combo = form->findChild<ComboBox *>();
+    QCOMPARE(combo->count(), 3);
+    QCOMPARE(combo->actionList().value(1), QStringLiteral("fileSave"));
+    auto *pushes = form->findChild<MatrixPushButtons *>();
+    QCOMPARE(pushes->buttonCount(), 6);
+    QCOMPARE(pushes->button(5)->text(), QStringLiteral("Paste"));
+    QVERIFY(!pushes->button(0)->icon().isNull());
+    auto *pane = form->findChild<Pane *>(QStringLiteral("templatePane"));
+    QCOMPARE(pane->title(), QStringLiteral("Template widgets"));
+    QVERIFY(pane->findChild<OptionRadios *>());
+}
+
+QTEST_MAIN(TestCcFormBuilder)
+#include "tst_ccformbuilder.moc"
