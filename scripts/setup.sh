@@ -26,6 +26,7 @@ packages=(
     libqt5svg5                # Designer's own icons include SVGs
     fonts-dejavu-core         # offscreen rendering needs at least one font
     xvfb xauth imagemagick    # the real designer under a virtual display, and screenshots of it
+    x11-utils                 # xwininfo: scripts/designer.sh waits for the Designer window
 )
 missing=()
 for p in "${packages[@]}"; do
