@@ -279,17 +279,17 @@ Point::Point(QWidget *parent) : TemplateField(parent)
     }
 }
 
-double Point::xValue() const { return m_coordinates[0]->value(); }
+double Point::xCoordinate() const { return m_coordinates[0]->value(); }
 
-void Point::setXValue(double value) { m_coordinates[0]->setValue(value); }
+void Point::setXCoordinate(double value) { m_coordinates[0]->setValue(value); }
 
-double Point::yValue() const { return m_coordinates[1]->value(); }
+double Point::yCoordinate() const { return m_coordinates[1]->value(); }
 
-void Point::setYValue(double value) { m_coordinates[1]->setValue(value); }
+void Point::setYCoordinate(double value) { m_coordinates[1]->setValue(value); }
 
-double Point::zValue() const { return m_coordinates[2]->value(); }
+double Point::zCoordinate() const { return m_coordinates[2]->value(); }
 
-void Point::setZValue(double value) { m_coordinates[2]->setValue(value); }
+void Point::setZCoordinate(double value) { m_coordinates[2]->setValue(value); }
 
 Slider::Slider(QWidget *parent)
     : TemplateField(parent), m_slider(new QSlider(Qt::Horizontal)), m_valueLabel(new QLabel)

@@ -10,19 +10,19 @@ namespace VoCc {
 class VOCC_EXPORT Point : public TemplateField
 {
     Q_OBJECT
-    Q_PROPERTY(double xCoordinate READ xValue WRITE setXValue)
-    Q_PROPERTY(double yCoordinate READ yValue WRITE setYValue)
-    Q_PROPERTY(double zCoordinate READ zValue WRITE setZValue)
+    Q_PROPERTY(double xCoordinate READ xCoordinate WRITE setXCoordinate)
+    Q_PROPERTY(double yCoordinate READ yCoordinate WRITE setYCoordinate)
+    Q_PROPERTY(double zCoordinate READ zCoordinate WRITE setZCoordinate)
 
 public:
     explicit Point(QWidget *parent = nullptr);
 
-    double xValue() const;
-    void setXValue(double value);
-    double yValue() const;
-    void setYValue(double value);
-    double zValue() const;
-    void setZValue(double value);
+    double xCoordinate() const;
+    void setXCoordinate(double value);
+    double yCoordinate() const;
+    void setYCoordinate(double value);
+    double zCoordinate() const;
+    void setZCoordinate(double value);
 
 signals:
     void pointChanged();

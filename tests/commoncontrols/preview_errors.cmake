@@ -1,0 +1,24 @@
+# ccpreview's failures: each bad input gives its own exit code and a message naming the
+# problem, and writes no image.
+#   cmake -DPREVIEW=<ccpreview> -DDATA=<folder with bad forms> -DOUTPUT=<png> -P preview_errors.cmake
+function(expect_failure code pattern)
+    file(REMOVE "${OUTPUT}")
+    execute_process(COMMAND "${PREVIEW}" ${ARGN}
+        RESULT_VARIABLE result ERROR_VARIABLE errors OUTPUT_QUIET)
+    if(NOT result EQUAL code)
+        message(FATAL_ERROR "${ARGN}: exit code ${result}, expected ${code}; ${errors}")
+    endif()
+    if(NOT errors MATCHES "${pattern}")
+        message(FATAL_ERROR "${ARGN}: message '${errors}' does not match '${pattern}'")
+    endif()
+    if(EXISTS "${OUTPUT}")
+        message(FATAL_ERROR "${ARGN}: an image was written")
+    endif()
+endfunction()
+
+expect_failure(1 "usage: ccpreview form.ui out.png")
+expect_failure(1 "usage:" "${DATA}/malformed.ui")
+expect_failure(2 "cannot open .*no-such-form.ui" "${DATA}/no-such-form.ui" "${OUTPUT}")
+expect_failure(3 "malformed.ui is not a form: line [0-9]+, column [0-9]+" "${DATA}/malformed.ui" "${OUTPUT}")
+expect_failure(3 "root element is <html>, not <ui>" "${DATA}/notaform.xml" "${OUTPUT}")
+expect_failure(4 "unknown widget classes: VoCc::Gauge" "${DATA}/unknownclass.ui" "${OUTPUT}")
