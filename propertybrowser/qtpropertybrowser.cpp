@@ -328,8 +328,9 @@ public:
     void propertyDestroyed(QtProperty *property);
 
     void releaseFactory(QtAbstractPropertyManager *manager);
-    void forgetFactory(QObject *factory);
-    void forgetManager(QObject *manager);
+    // Both are called for objects already destroyed: only their addresses are used.
+    void forgetFactory(QtAbstractEditorFactoryBase *factory);
+    void forgetManager(QtAbstractPropertyManager *manager);
 
     QtAbstractPropertyBrowser *q_ptr = nullptr;
 
@@ -503,39 +504,22 @@ void QtAbstractPropertyBrowserPrivate::releaseFactory(QtAbstractPropertyManager 
     factory->breakConnection(manager);
 }
 
-void QtAbstractPropertyBrowserPrivate::forgetFactory(QObject *factory)
+void QtAbstractPropertyBrowserPrivate::forgetFactory(QtAbstractEditorFactoryBase *factory)
 {
     for (auto it = m_factories.begin(); it != m_factories.end();) {
-        if (static_cast<QObject *>(it.value()) == factory)
+        if (it.value() == factory)
             it = m_factories.erase(it);
         else
             ++it;
     }
-    auto use = factoryUse().begin();
-    while (use != factoryUse().end()) {
-        if (static_cast<QObject *>(use.key()) == factory)
-            use = factoryUse().erase(use);
-        else
-            ++use;
-    }
+    factoryUse().remove(factory);
 }
 
-void QtAbstractPropertyBrowserPrivate::forgetManager(QObject *manager)
+void QtAbstractPropertyBrowserPrivate::forgetManager(QtAbstractPropertyManager *manager)
 {
-    for (auto it = m_factories.begin(); it != m_factories.end();) {
-        if (static_cast<QObject *>(it.key()) == manager)
-            it = m_factories.erase(it);
-        else
-            ++it;
-    }
-    for (auto &use : factoryUse()) {
-        for (auto it = use.begin(); it != use.end();) {
-            if (static_cast<QObject *>(it.key()) == manager)
-                it = use.erase(it);
-            else
-                ++it;
-        }
-    }
+    m_factories.remove(manager);
+    for (auto &use : factoryUse())
+        use.remove(manager);
 }
 
 QtAbstractPropertyBrowser::QtAbstractPropertyBrowser(QWidget *parent)
@@ -658,21 +642,25 @@ bool QtAbstractPropertyBrowser::addFactory(QtAbstractPropertyManager *abstractMa
     d_ptr->releaseFactory(abstractManager);
     d_ptr->m_factories.insert(abstractManager, abstractFactory);
 
-    // Forget pairings whose factory or manager goes away while this browser lives.
-    for (QObject *object :
-         {static_cast<QObject *>(abstractManager), static_cast<QObject *>(abstractFactory)}) {
-        if (d_ptr->m_lifetimeWatches.contains(object))
-            continue;
-        const bool isFactory = object == abstractFactory;
-        d_ptr->m_lifetimeWatches.insert(
-                object,
-                connect(object, &QObject::destroyed, this, [this, isFactory](QObject *gone) {
-                    d_ptr->m_lifetimeWatches.remove(gone);
-                    if (isFactory)
-                        d_ptr->forgetFactory(gone);
-                    else
-                        d_ptr->forgetManager(gone);
-                }));
+    // Forget pairings whose factory or manager goes away while this browser lives. The
+    // typed pointers are taken now, while the objects are whole.
+    QObject *managerObject = abstractManager;
+    if (!d_ptr->m_lifetimeWatches.contains(managerObject)) {
+        d_ptr->m_lifetimeWatches.insert(managerObject,
+                                        connect(managerObject, &QObject::destroyed, this,
+                                                [this, managerObject, abstractManager] {
+                                                    d_ptr->m_lifetimeWatches.remove(managerObject);
+                                                    d_ptr->forgetManager(abstractManager);
+                                                }));
+    }
+    QObject *factoryObject = abstractFactory;
+    if (!d_ptr->m_lifetimeWatches.contains(factoryObject)) {
+        d_ptr->m_lifetimeWatches.insert(factoryObject,
+                                        connect(factoryObject, &QObject::destroyed, this,
+                                                [this, factoryObject, abstractFactory] {
+                                                    d_ptr->m_lifetimeWatches.remove(factoryObject);
+                                                    d_ptr->forgetFactory(abstractFactory);
+                                                }));
     }
 
     int &count = factoryUse()[abstractFactory][abstractManager];

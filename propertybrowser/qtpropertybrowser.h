@@ -5,6 +5,7 @@
 // Class names and signatures follow the Qt Solutions property browser, so code written
 // against this API builds against either implementation.
 
+#include <QHash>
 #include <QIcon>
 #include <QList>
 #include <QObject>
@@ -134,6 +135,7 @@ public:
         if (!manager || m_managers.contains(manager))
             return;
         m_managers.insert(manager);
+        m_managerObjects.insert(manager, manager);
         connectPropertyManager(manager);
         connect(manager, SIGNAL(destroyed(QObject *)), this, SLOT(managerDestroyed(QObject *)));
     }
@@ -145,6 +147,7 @@ public:
         disconnect(manager, SIGNAL(destroyed(QObject *)), this, SLOT(managerDestroyed(QObject *)));
         disconnectPropertyManager(manager);
         m_managers.remove(manager);
+        m_managerObjects.remove(manager);
     }
 
     QSet<PropertyManager *> propertyManagers() const { return m_managers; }
@@ -169,13 +172,10 @@ protected:
 
     void managerDestroyed(QObject *manager) override
     {
-        // Compared by address only: the manager is already past its own destructor here.
-        for (PropertyManager *candidate : m_managers) {
-            if (static_cast<QObject *>(candidate) == manager) {
-                m_managers.remove(candidate);
-                return;
-            }
-        }
+        // Looked up by the QObject address recorded when the manager was added: the
+        // manager is past its own destructor here and must not be cast.
+        if (PropertyManager *gone = m_managerObjects.take(manager))
+            m_managers.remove(gone);
     }
 
 private:
@@ -190,6 +190,7 @@ private:
     }
 
     QSet<PropertyManager *> m_managers;
+    QHash<QObject *, PropertyManager *> m_managerObjects;
 };
 
 class QtAbstractPropertyBrowser;

@@ -47,7 +47,7 @@ public:
     void bind(QWidget *editor, QtProperty *property,
               std::function<void(const QVariant &)> showValue,
               std::function<void()> showAttributes = {});
-    void unbind(QObject *editor);
+    void unbind(QWidget *editor);
     void commit(QWidget *editor, const QVariant &value);
 
     void valueChanged(QtProperty *property, const QVariant &value);
@@ -76,19 +76,18 @@ void QtVariantEditorFactoryPrivate::bind(QWidget *editor, QtProperty *property,
     editor->setAutoFillBackground(true);
     m_bindings.insert(editor, {property, std::move(showValue), std::move(showAttributes)});
     m_propertyEditors[property].append(editor);
-    QObject::connect(editor, &QObject::destroyed, q_ptr, [this](QObject *gone) { unbind(gone); });
+    QObject::connect(editor, &QObject::destroyed, q_ptr, [this, editor] { unbind(editor); });
 }
 
-void QtVariantEditorFactoryPrivate::unbind(QObject *editor)
+void QtVariantEditorFactoryPrivate::unbind(QWidget *editor)
 {
     // Only the address is used: the editor may be half destroyed.
-    auto *widget = static_cast<QWidget *>(editor);
-    auto binding = m_bindings.find(widget);
+    auto binding = m_bindings.find(editor);
     if (binding == m_bindings.end())
         return;
     auto editors = m_propertyEditors.find(binding->property);
     if (editors != m_propertyEditors.end()) {
-        editors->removeOne(widget);
+        editors->removeOne(editor);
         if (editors->isEmpty())
             m_propertyEditors.erase(editors);
     }

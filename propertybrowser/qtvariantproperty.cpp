@@ -431,7 +431,7 @@ public:
         QVariant value;
         QHash<QString, QVariant> attributes;
         // Sub-properties this manager made for a compound value, in field order.
-        QList<QtVariantProperty *> fields;
+        QList<QtProperty *> fields;
     };
 
     bool isOwnType(const Data &data) const { return typeSpec(data.propertyType) != nullptr; }
@@ -504,9 +504,9 @@ void QtVariantPropertyManagerPrivate::deleteFields(QtProperty *property)
     auto data = m_data.find(property);
     if (data == m_data.end())
         return;
-    const QList<QtVariantProperty *> fields = data->fields;
+    const QList<QtProperty *> fields = data->fields;
     data->fields.clear();
-    for (QtVariantProperty *field : fields) {
+    for (QtProperty *field : fields) {
         m_fieldParent.remove(field);
         delete field;
     }
@@ -525,7 +525,7 @@ void QtVariantPropertyManagerPrivate::updateFields(QtProperty *property)
     } else {
         const QList<FieldSpec> &fields = fieldSpecs(data.value.userType());
         for (int i = 0; i < data.fields.size() && i < fields.size(); ++i) {
-            QtVariantProperty *field = data.fields.at(i);
+            QtProperty *field = data.fields.at(i);
             if (fields.at(i).get) {
                 storeValue(field, fields.at(i).get(data.value));
                 continue;
@@ -554,7 +554,7 @@ void QtVariantPropertyManagerPrivate::fieldChanged(QtProperty *field)
     if (!property || m_updatingFields)
         return;
     const Data data = m_data.value(property);
-    const int index = data.fields.indexOf(static_cast<QtVariantProperty *>(field));
+    const int index = data.fields.indexOf(field);
     const QVariant fieldValue = m_data.value(field).value;
     QVariant value = data.value;
     if (data.propertyType == QtVariantPropertyManager::flagTypeId()) {
@@ -939,7 +939,7 @@ void QtVariantPropertyManager::uninitializeProperty(QtProperty *property)
     if (QtProperty *parent = d_ptr->m_fieldParent.take(property)) {
         auto parentData = d_ptr->m_data.find(parent);
         if (parentData != d_ptr->m_data.end())
-            parentData->fields.removeOne(static_cast<QtVariantProperty *>(property));
+            parentData->fields.removeOne(property);
     }
     d_ptr->m_data.remove(property);
 }
