@@ -64,16 +64,18 @@ QWidget *WidgetPluginImpl::createWidget(QWidget *parent)
     const bool followsEditor = m_row->tracking == Tracking::PropertyEditor
             || m_row->tracking == Tracking::PropertyEditorAndResources;
     // One connection per created widget, on purpose: the slots run once per widget made.
+    // clang-format off
     if (followsEditor && m_core) {
         m_propertyEditor = m_core->propertyEditor();
         if (m_propertyEditor)
-            QObject::connect(m_propertyEditor, SIGNAL(propertyChanged(QString, QVariant)), m_plugin,
-                             SLOT(propertyChanged(QString, QVariant)));
+            QObject::connect(m_propertyEditor, SIGNAL(propertyChanged(QString ,QVariant)),
+                             m_plugin, SLOT(propertyChanged(QString,QVariant)));
         if (m_row->tracking == Tracking::PropertyEditorAndResources)
             QObject::connect(m_core->resourceModel(),
-                             SIGNAL(resourceSetActivated(QtResourceSet *, bool)), m_plugin,
-                             SLOT(resourceSetActivated(QtResourceSet *, bool)));
+                             SIGNAL(resourceSetActivated(QtResourceSet*, bool)),
+                             m_plugin, SLOT(resourceSetActivated(QtResourceSet*, bool)));
     }
+    // clang-format on
     QWidget *widget = m_row->createWidget(parent);
     if (m_row->tracking == Tracking::Pages) {
         QObject::connect(widget, SIGNAL(currentIndexChanged(int)), m_plugin,
