@@ -69,10 +69,14 @@ void PropertyItemDelegate::paint(QPainter *painter, const QStyleOptionViewItem &
 bool PropertyItemDelegate::eventFilter(QObject *object, QEvent *event)
 {
     // Escape abandons the edit: the editor is closed without writing what it holds (an
-    // editor writes when it loses the focus, which closing it makes it do).
+    // editor writes when it loses the focus, which closing it makes it do). The editor may
+    // be a wrapper around the widget that writes, so its children fall silent as well.
     if (event->type() == QEvent::KeyPress
         && static_cast<QKeyEvent *>(event)->key() == Qt::Key_Escape) {
         object->blockSignals(true);
+        const QList<QObject *> children = object->findChildren<QObject *>();
+        for (QObject *child : children)
+            child->blockSignals(true);
     }
     return QStyledItemDelegate::eventFilter(object, event);
 }

@@ -1,5 +1,6 @@
 #include "temperatureproperty.h"
 
+#include <QHBoxLayout>
 #include <QLineEdit>
 #include <QPointer>
 
@@ -108,8 +109,18 @@ void TemperaturePropertyManager::uninitializeProperty(QtProperty *property)
 QWidget *TemperatureEditorFactory::createEditor(QtVariantPropertyManager *manager,
                                                 QtProperty *property, QWidget *parent)
 {
-    if (manager->propertyType(property) != TemperaturePropertyManager::temperatureTypeId())
-        return QtVariantEditorFactory::createEditor(manager, property, parent);
+    if (manager->propertyType(property) != TemperaturePropertyManager::temperatureTypeId()) {
+        QWidget *editor = QtVariantEditorFactory::createEditor(manager, property, parent);
+        if (!editor)
+            return nullptr;
+        auto *frame = new QWidget(parent);
+        auto *layout = new QHBoxLayout(frame);
+        layout->setContentsMargins(0, 0, 0, 0);
+        layout->addWidget(editor);
+        frame->setFocusProxy(editor);
+        frame->setAutoFillBackground(true);
+        return frame;
+    }
     ++m_editorsMade;
     auto *editor = new QLineEdit(parent);
     editor->setAutoFillBackground(true);

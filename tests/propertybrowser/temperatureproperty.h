@@ -54,6 +54,8 @@ private:
     QHash<const QtProperty *, Data> m_data;
 };
 
+// Makes its own editor for temperatures and, as a decorating factory does, puts the base's
+// editors for the other types into a frame of its own.
 class TemperatureEditorFactory : public QtVariantEditorFactory
 {
     Q_OBJECT

@@ -554,9 +554,26 @@ void TestTreePropertyBrowser::customTypeEditor()
     temperature->setAttribute(QStringLiteral("fahrenheit"), true);
     QVERIFY(treeOf(&browser)->topLevelItem(0)->text(1).endsWith(QStringLiteral(" F")));
 
-    // The base's types still get the base's editors from the subclassed factory.
-    QVERIFY(qobject_cast<QSpinBox *>(openEditor(&browser, browser.topLevelItem(count))));
+    // The base's types still get the base's editors from the subclassed factory, here in
+    // a frame; Escape in the framed editor abandons the edit, Enter writes it.
+    QWidget *frame = openEditor(&browser, browser.topLevelItem(count));
+    QVERIFY(frame);
+    auto *spin = frame->findChild<QSpinBox *>();
+    QVERIFY(spin);
     QCOMPARE(factory.editorsMade(), 1);
+    QTRY_VERIFY(spin->hasFocus());
+    spin->selectAll();
+    QTest::keyClicks(spin, QStringLiteral("64"));
+    QTest::keyClick(spin, Qt::Key_Escape);
+    QTest::qWait(1);
+    QCOMPARE(count->value().toInt(), 0);
+    frame = openEditor(&browser, browser.topLevelItem(count));
+    spin = frame->findChild<QSpinBox *>();
+    QTRY_VERIFY(spin->hasFocus());
+    spin->selectAll();
+    QTest::keyClicks(spin, QStringLiteral("64"));
+    QTest::keyClick(spin, Qt::Key_Return);
+    QCOMPARE(count->value().toInt(), 64);
 }
 
 void TestTreePropertyBrowser::columns()
@@ -572,6 +589,19 @@ void TestTreePropertyBrowser::columns()
 
     QCOMPARE(browser->resizeMode(), QtTreePropertyBrowser::Stretch);
     QVERIFY(qAbs(browser->splitterPosition() - width / 2) <= 1);
+
+    // Set before the browser is shown, the position holds once it is (as an item editor's
+    // pane sets it).
+    QtTreePropertyBrowser early;
+    early.setResizeMode(QtTreePropertyBrowser::Interactive);
+    early.setSplitterPosition(123);
+    early.resize(400, 200);
+    early.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&early));
+    QCOMPARE(early.splitterPosition(), 123);
+    early.resize(500, 200);
+    QCOMPARE(early.splitterPosition(), 123);
+    early.hide();
 
     browser->setResizeMode(QtTreePropertyBrowser::Interactive);
     browser->setSplitterPosition(150);
@@ -777,6 +807,19 @@ void TestTreePropertyBrowser::renderToImage()
 {
     Pane pane;
     QtTreePropertyBrowser *browser = pane.browser.get();
+    // Set before the browser is shown, the position holds once it is (as an item editor's
+    // pane sets it).
+    QtTreePropertyBrowser early;
+    early.setResizeMode(QtTreePropertyBrowser::Interactive);
+    early.setSplitterPosition(123);
+    early.resize(400, 200);
+    early.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&early));
+    QCOMPARE(early.splitterPosition(), 123);
+    early.resize(500, 200);
+    QCOMPARE(early.splitterPosition(), 123);
+    early.hide();
+
     browser->setResizeMode(QtTreePropertyBrowser::Interactive);
     browser->setSplitterPosition(150);
     QtVariantProperty *text =
