@@ -1,5 +1,6 @@
 #pragma once
 
+#include "itempropertybrowser.h"
 #include "propertydefinition.h"
 
 #include <QHash>
@@ -20,7 +21,6 @@ namespace qdesigner_internal {
 class DesignerEditorFactory;
 class DesignerIconCache;
 class DesignerPropertyManager;
-class ItemPropertyBrowser;
 
 // The base of the item editors: a property pane for the current item whose rows, declared
 // by a PropertyDefinition table, each edit one item data role. Changing a designer value

@@ -14,6 +14,7 @@
 #include <QElapsedTimer>
 #include <QPainter>
 #include <QPixmap>
+#include <QPointer>
 #include <QTest>
 #include <QTimer>
 #include <QWidget>
@@ -78,22 +79,28 @@ T *openEditor(QtTreePropertyBrowser *browser, QtProperty *property)
     return editors.isEmpty() ? nullptr : editors.first();
 }
 
-// Runs act on the next modal dialog of type T as soon as it is shown (then it is up to act
-// to accept or reject it). Returns a flag that tells whether it ran.
+// Runs act on the next modal dialog of type T as soon as it is shown; act accepts or rejects
+// it. Should the dialog still be up a while later (a file dialog may still be loading its
+// folder and ignore the first answer), act runs again. Returns a flag that tells whether act
+// ran at all.
 template<class T>
 std::shared_ptr<bool> whenModal(std::function<void(T *)> act)
 {
     auto done = std::make_shared<bool>(false);
     auto *timer = new QTimer;
     auto clock = std::make_shared<QElapsedTimer>();
+    auto sinceAct = std::make_shared<QElapsedTimer>();
+    auto answered = std::make_shared<QPointer<T>>();
     clock->start();
-    QObject::connect(timer, &QTimer::timeout, [timer, act, done, clock] {
-        if (T *dialog = qobject_cast<T *>(QApplication::activeModalWidget())) {
-            timer->stop();
-            timer->deleteLater();
+    QObject::connect(timer, &QTimer::timeout, [timer, act, done, clock, sinceAct, answered] {
+        T *dialog = qobject_cast<T *>(QApplication::activeModalWidget());
+        const bool again = *done && dialog && dialog == answered->data();
+        if (dialog && (!*done || (again && sinceAct->elapsed() > 300))) {
             *done = true;
+            *answered = dialog;
+            sinceAct->start();
             act(dialog);
-        } else if (clock->elapsed() > 10000) {
+        } else if ((*done && !again) || clock->elapsed() > 20000) {
             timer->stop();
             timer->deleteLater();
         }
