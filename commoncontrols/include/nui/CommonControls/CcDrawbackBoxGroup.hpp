@@ -21,7 +21,6 @@ class VOCC_EXPORT DrawbackBoxGroup : public QWidget
 {
     Q_OBJECT
     Q_PROPERTY(int currentIndex READ currentIndex WRITE setCurrentIndex NOTIFY currentIndexChanged)
-    Q_PROPERTY(int count READ count)
 
 public:
     explicit DrawbackBoxGroup(QWidget *parent = nullptr);
