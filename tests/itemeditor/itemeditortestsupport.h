@@ -12,6 +12,8 @@
 #include <QApplication>
 #include <QColor>
 #include <QElapsedTimer>
+#include <QFileDialog>
+#include <QLineEdit>
 #include <QPainter>
 #include <QPixmap>
 #include <QPointer>
@@ -107,6 +109,19 @@ std::shared_ptr<bool> whenModal(std::function<void(T *)> act)
     });
     timer->start(20);
     return done;
+}
+
+// Picks a file in a file dialog as a user typing its full path does, and accepts.
+inline void answerFileDialog(QFileDialog *dialog, const QString &path)
+{
+    if (auto *edit = dialog->findChild<QLineEdit *>(QStringLiteral("fileNameEdit")))
+        edit->setText(path);
+    else
+        dialog->selectFile(path);
+    QMetaObject::invokeMethod(dialog, "accept");
+    if (dialog->isVisible())
+        qWarning("file dialog still open, selected: %s",
+                 qPrintable(dialog->selectedFiles().join(QLatin1Char(' '))));
 }
 
 } // namespace CcTest

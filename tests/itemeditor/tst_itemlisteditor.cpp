@@ -437,10 +437,8 @@ void TestItemListEditor::editingValuesInThePaneSetsAndMirrorsRoles()
     auto *pixmapEditor = CcTest::openEditor<PixmapEditor>(browser, icon);
     QVERIFY(pixmapEditor);
     const QString picture = m_redPicture;
-    auto answered = CcTest::whenModal<QFileDialog>([picture](QFileDialog *dialog) {
-        dialog->selectFile(picture);
-        QMetaObject::invokeMethod(dialog, "accept");
-    });
+    auto answered = CcTest::whenModal<QFileDialog>(
+            [picture](QFileDialog *dialog) { CcTest::answerFileDialog(dialog, picture); });
     pixmapEditor->chooseFileAction()->trigger();
     QVERIFY(*answered);
     const auto iconValue =

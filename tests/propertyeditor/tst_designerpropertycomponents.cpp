@@ -366,12 +366,8 @@ void TestDesignerPropertyComponents::iconValuesWithStatesThemeAndCache()
     // A file for the whole icon replaces its pixmaps.
     editor = CcTest::openEditor<PixmapEditor>(&pane.browser, icon);
     const QString picture = m_bluePicture;
-    auto chosen = CcTest::whenModal<QDialog>([picture](QDialog *dialog) {
-        auto *fileDialog = qobject_cast<QFileDialog *>(dialog);
-        QVERIFY(fileDialog);
-        fileDialog->selectFile(picture);
-        QMetaObject::invokeMethod(fileDialog, "accept");
-    });
+    auto chosen = CcTest::whenModal<QFileDialog>(
+            [picture](QFileDialog *dialog) { CcTest::answerFileDialog(dialog, picture); });
     editor->chooseFileAction()->trigger();
     QVERIFY(*chosen);
     value = iconOf(icon->value());
