@@ -149,12 +149,9 @@ void QtProperty::insertSubProperty(QtProperty *property, QtProperty *afterProper
         }
     }
 
-    // Moving within the same parent: take it out first, then put it back.
-    if (d_ptr->m_subItems.contains(property)) {
-        if (property == afterProperty)
-            return;
-        removeSubProperty(property);
-    }
+    // Each property appears once under a parent; a second insertion changes nothing.
+    if (d_ptr->m_subItems.contains(property))
+        return;
 
     int position = 0;
     if (afterProperty) {

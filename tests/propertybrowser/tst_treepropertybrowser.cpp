@@ -31,7 +31,7 @@ struct Pane
     Pane()
     {
         browser->setFactoryForManager<QtVariantPropertyManager>(manager.get(), factory.get());
-        browser->resize(420, 360);
+        browser->resize(420, 400);
     }
     void show()
     {
@@ -636,12 +636,7 @@ void TestTreePropertyBrowser::columns()
     browser->setHeaderVisible(false);
     QVERIFY(!browser->isHeaderVisible());
     QVERIFY(header->isHidden());
-    browser->setIndentation(7);
-    QCOMPARE(browser->indentation(), 7);
-    browser->setRootIsDecorated(false);
-    QVERIFY(!browser->rootIsDecorated());
     browser->setAlternatingRowColors(false);
-    QVERIFY(!browser->alternatingRowColors());
     QVERIFY(!treeOf(browser)->alternatingRowColors());
 }
 
@@ -841,7 +836,13 @@ void TestTreePropertyBrowser::renderToImage()
     QtVariantProperty *disabled = pane.add(QMetaType::Int, QStringLiteral("disabled"), 3);
     disabled->setEnabled(false);
     browser->setExpanded(browser->topLevelItem(font), false);
+    QtVariantProperty *group =
+            pane.add(QtVariantPropertyManager::groupTypeId(), QStringLiteral("Geometry"));
+    group->addSubProperty(pane.manager->addProperty(QMetaType::QSize, QStringLiteral("size")));
+    browser->setExpanded(browser->topLevelItem(group)->children().at(0), false);
+    browser->setPropertiesWithoutValueMarked(true);
     pane.show();
+    QVERIFY(openEditor(browser, browser->topLevelItem(state)));
 
     const QImage image = browser->grab().toImage();
     QVERIFY(image.save(QStringLiteral("treepropertybrowser.png")));

