@@ -5,7 +5,8 @@
 #include "propertymetatypes.h"
 #include "qttreepropertybrowser.h"
 #include "qtvariantproperty.h"
-#include "temperatureproperty.h"
+#include "temperatureeditorfactory.h"
+#include "temperaturepropertymanager.h"
 
 #include <QApplication>
 #include <QCheckBox>

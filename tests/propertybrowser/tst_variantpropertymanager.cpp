@@ -3,7 +3,7 @@
 
 #include "propertymetatypes.h"
 #include "qtvariantproperty.h"
-#include "temperatureproperty.h"
+#include "temperaturepropertymanager.h"
 
 #include <QColor>
 #include <QFont>

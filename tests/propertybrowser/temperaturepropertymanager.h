@@ -1,7 +1,8 @@
 #pragma once
 
-// A property type the variant manager does not know, added by subclassing the manager and
-// the editor factory as any user of the property-browser API would.
+// A property type the variant manager does not know, added by subclassing the manager as
+// any user of the property-browser API would (the editor comes from
+// TemperatureEditorFactory).
 
 #include "qtvariantproperty.h"
 
@@ -52,22 +53,4 @@ private:
         bool fahrenheit = false;
     };
     QHash<const QtProperty *, Data> m_data;
-};
-
-// Makes its own editor for temperatures and, as a decorating factory does, puts the base's
-// editors for the other types into a frame of its own.
-class TemperatureEditorFactory : public QtVariantEditorFactory
-{
-    Q_OBJECT
-public:
-    using QtVariantEditorFactory::QtVariantEditorFactory;
-
-    int editorsMade() const { return m_editorsMade; }
-
-protected:
-    QWidget *createEditor(QtVariantPropertyManager *manager, QtProperty *property,
-                          QWidget *parent) override;
-
-private:
-    int m_editorsMade = 0;
 };

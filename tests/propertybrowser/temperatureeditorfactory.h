@@ -1,0 +1,21 @@
+#pragma once
+
+#include "qtvariantproperty.h"
+
+// Makes its own editor for temperatures and, as a decorating factory does, puts the base's
+// editors for the other types into a frame of its own.
+class TemperatureEditorFactory : public QtVariantEditorFactory
+{
+    Q_OBJECT
+public:
+    using QtVariantEditorFactory::QtVariantEditorFactory;
+
+    int editorsMade() const { return m_editorsMade; }
+
+protected:
+    QWidget *createEditor(QtVariantPropertyManager *manager, QtProperty *property,
+                          QWidget *parent) override;
+
+private:
+    int m_editorsMade = 0;
+};
