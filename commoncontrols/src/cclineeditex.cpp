@@ -1,10 +1,27 @@
 #include "nui/CommonControls/CcLineEditEx.hpp"
 
+#include <QAction>
 #include <QRegularExpressionValidator>
+#include <QStyle>
 
 namespace VoCc {
 
-LineEditEx::LineEditEx(QWidget *parent) : QLineEdit(parent) { setClearButtonEnabled(true); }
+LineEditEx::LineEditEx(QWidget *parent) : QLineEdit(parent)
+{
+    // A clear button of its own rather than QLineEdit's: that one fades in and out with an
+    // animation that outlives a line edit deleted while it runs.
+    m_clearAction = addAction(style()->standardIcon(QStyle::SP_LineEditClearButton),
+                              QLineEdit::TrailingPosition);
+    m_clearAction->setToolTip(tr("Clear"));
+    connect(m_clearAction, &QAction::triggered, this, &QLineEdit::clear);
+    connect(this, &QLineEdit::textChanged, this, &LineEditEx::updateClearAction);
+    updateClearAction();
+}
+
+void LineEditEx::updateClearAction()
+{
+    m_clearAction->setVisible(!text().isEmpty() && !isReadOnly());
+}
 
 QString LineEditEx::pattern() const { return m_pattern; }
 

@@ -15,6 +15,7 @@
 #include <nui/CommonControls/template/CcOptionRadios.hpp>
 
 #include <QAbstractButton>
+#include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
@@ -59,6 +60,7 @@ private slots:
     void pageGroupCurrentAndTitles();
     void pageGroupReplaceBoxes();
     void paneAndForm();
+    void lineEditExClearsAndValidates();
 };
 
 void TestCcWidgets::everyClassHasItsQualifiedMetaObject()
@@ -582,6 +584,30 @@ void TestCcWidgets::paneAndForm()
     QCOMPARE(form.mode(), Form::Floating);
     QVERIFY(form.setProperty("functionName", QStringLiteral("openSketch")));
     QCOMPARE(form.functionName(), QStringLiteral("openSketch"));
+}
+
+void TestCcWidgets::lineEditExClearsAndValidates()
+{
+    LineEditEx edit;
+    QCOMPARE(edit.actions().size(), 1);
+    QAction *clear = edit.actions().at(0);
+    QVERIFY(!clear->isVisible());
+    edit.setText(QStringLiteral("abc"));
+    QVERIFY(clear->isVisible());
+    clear->trigger();
+    QVERIFY(edit.text().isEmpty());
+    QVERIFY(!clear->isVisible());
+
+    // Input must match the pattern; an invalid pattern changes nothing.
+    edit.setPattern(QStringLiteral("[A-Z]-[0-9]*"));
+    QTest::keyClicks(&edit, QStringLiteral("a1B-12x"));
+    QCOMPARE(edit.text(), QStringLiteral("B-12"));
+    edit.setPattern(QStringLiteral("(unclosed"));
+    QCOMPARE(edit.pattern(), QStringLiteral("[A-Z]-[0-9]*"));
+    edit.setPattern(QString());
+    QVERIFY(!edit.validator());
+    QTest::keyClicks(&edit, QStringLiteral("zz"));
+    QCOMPARE(edit.text(), QStringLiteral("B-12zz"));
 }
 
 QTEST_MAIN(TestCcWidgets)

@@ -6,6 +6,8 @@
 
 #include <QLineEdit>
 
+class QAction;
+
 namespace VoCc {
 
 // A line edit with a clear button and an optional pattern (a regular expression) that
@@ -23,7 +25,10 @@ public:
     void setPattern(const QString &pattern);
 
 private:
+    void updateClearAction();
+
     QString m_pattern;
+    QAction *m_clearAction = nullptr;
 };
 
 } // namespace VoCc
