@@ -132,6 +132,13 @@ void TestPropertyBrowserInDesigner::bothBrowsersWork()
     QVERIFY(designerTree);
     QVERIFY(allRowTexts(designerTree).contains(QStringLiteral("objectName")));
 
+    // The marker types naming enums, flags and groups go by the same names in Designer's
+    // copy, whose editor registered them above. Qt takes a second registration of a name
+    // only when the type is declared alike (it aborts otherwise); the ids are then shared.
+    QCOMPARE(QMetaType::type("QtEnumPropertyType"), QtVariantPropertyManager::enumTypeId());
+    QCOMPARE(QMetaType::type("QtFlagPropertyType"), QtVariantPropertyManager::flagTypeId());
+    QCOMPARE(QMetaType::type("QtGroupPropertyType"), QtVariantPropertyManager::groupTypeId());
+
     // ...while ours, in the same process, shows and edits its own properties.
     QtVariantPropertyManager manager;
     QtVariantEditorFactory factory;
