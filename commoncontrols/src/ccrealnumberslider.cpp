@@ -22,7 +22,7 @@ RealNumberSlider::RealNumberSlider(QWidget *parent)
     layout->addWidget(m_slider, 1);
     layout->addWidget(m_spinBox);
     m_slider->setRange(0, SliderSteps);
-    m_spinBox->setRange(0.0, 1.0);
+    m_spinBox->setRange(0.0, 100.0);
     m_spinBox->setDecimals(2);
     m_spinBox->setSingleStep(0.01);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);

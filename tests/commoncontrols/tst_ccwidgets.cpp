@@ -21,6 +21,7 @@
 #include <QLabel>
 #include <QMenu>
 #include <QMetaEnum>
+#include <QScopedPointer>
 #include <QSignalSpy>
 #include <QStandardItemModel>
 #include <QTest>
@@ -48,6 +49,7 @@ class TestCcWidgets : public QObject
 
 private slots:
     void everyClassHasItsQualifiedMetaObject();
+    void ownPropertiesKeepWhatIsWritten();
     void optionWidgetsKeepTheirListsAligned();
     void optionButtonsAndRadiosShowOneButtonPerEntry();
     void optionCheckBoxChoosesBetweenTwoEntries();
@@ -83,6 +85,61 @@ void TestCcWidgets::everyClassHasItsQualifiedMetaObject()
 
     ColorPanel *panel = new ColorPanel(&parent, Qt::Tool);
     QVERIFY(panel->windowFlags() & Qt::Tool);
+}
+
+// A value of the property's type that differs from what a new widget holds.
+static QVariant otherValue(const QMetaProperty &property, const QVariant &current)
+{
+    if (property.isEnumType()) {
+        const QMetaEnum enumerator = property.enumerator();
+        for (int i = 0; i < enumerator.keyCount(); ++i) {
+            if (enumerator.value(i) != current.toInt() && enumerator.value(i) != 0)
+                return enumerator.value(i);
+        }
+        return current;
+    }
+    switch (property.userType()) {
+    case QMetaType::Int:
+        return current.toInt() == 3 ? 4 : 3;
+    case QMetaType::Double:
+        return current.toDouble() == 2.5 ? 1.5 : 2.5;
+    case QMetaType::Bool:
+        return !current.toBool();
+    case QMetaType::QString:
+        return QStringLiteral("abc");
+    case QMetaType::QStringList:
+        return QStringList {QStringLiteral("a"), QStringLiteral("b")};
+    case QMetaType::QColor:
+        return QColor(10, 20, 30);
+    default:
+        return QVariant();
+    }
+}
+
+void TestCcWidgets::ownPropertiesKeepWhatIsWritten()
+{
+    // What a form author (or a form file) writes into a property of a library class reads
+    // back unchanged. Properties whose meaning depends on entries are tested with them.
+    const QSet<QByteArray> dependOnEntries = {"currentIndex", "checkedTexts"};
+    for (const QString &name : FormBuilder::widgetClassNames()) {
+        QScopedPointer<QWidget> widget(FormBuilder::createCommonControl(name, nullptr));
+        const QMetaObject *meta = widget->metaObject();
+        // The properties the library adds, from its topmost class down.
+        const QMetaObject *own = meta;
+        while (own->superClass() && QByteArray(own->superClass()->className()).startsWith("VoCc::"))
+            own = own->superClass();
+        for (int i = own->propertyOffset(); i < meta->propertyCount(); ++i) {
+            const QMetaProperty property = meta->property(i);
+            if (!property.isWritable() || dependOnEntries.contains(property.name()))
+                continue;
+            const QVariant before = property.read(widget.data());
+            const QVariant value = otherValue(property, before);
+            const QByteArray where = name.toLatin1() + "::" + property.name();
+            QVERIFY2(value.isValid() && value != before, where.constData());
+            QVERIFY2(property.write(widget.data(), value), where.constData());
+            QVERIFY2(property.read(widget.data()) == value, where.constData());
+        }
+    }
 }
 
 void TestCcWidgets::optionWidgetsKeepTheirListsAligned()
