@@ -15,27 +15,33 @@ namespace VoCc {
 // Loads and saves forms that use the CommonControls widgets, without any Designer plug-in.
 //
 // The entries of the list-like widgets travel in the form file as <item> elements of the
-// widget, each with <property> children "text", "icon" (a pixmap path), "toolTip", "data"
-// and "action" (the last two marked notr="true"); an absent property is an empty entry, so
-// item i holds entry i of every list of the widget:
+// widget, each with <property> children "data", "text", "icon" (a pixmap path), "toolTip"
+// and "action", written in that order as <string> values: texts and tool tips with
+// notr="false", data, icon paths and action names with notr="true". An absent property is
+// an empty entry, so item i holds entry i of every list of the widget, and a widget gets as
+// many items as its longest list has entries:
 //  - OptionComboBox, OptionButtons, OptionRadios, OptionCheckBox: text, icon, toolTip, data;
 //  - CheckableTextComboBox: text, toolTip;
-//  - MatrixPushButtons, MatrixRadioButtons, MatrixCheckBoxes: text, icon, toolTip, action;
-//    their dimensions are the properties "row" and "column", which saveExtraInfo writes
-//    next to the items (replacing any already there), so the file always says how the list
-//    is laid out;
-//  - MatrixPopButtons: its texts are its "textList" property, not items; its items carry
+//  - MatrixPushButtons, MatrixRadioButtons, MatrixCheckBoxes: text, icon, toolTip, action.
+//    Their dimensions are the properties "row" and "column"; saveExtraInfo writes both next
+//    to the items (replacing any already there), so the file always says how the entries
+//    are laid out. The lists do not depend on the dimensions: a grid shows its first
+//    row x column entries.
+//  - MatrixPopButtons: its texts are its "textList" property, never items; its items carry
 //    icon, toolTip and action only, and "row", "column" and "textList" are written as
-//    properties (replacing any already there), so no text is stored twice;
-//  - ComboBox: its items (text and icon) are written by the form writer itself; only the
-//    action of each item is added to the <item> elements already there;
-//  - DrawbackBoxGroup: nothing extra is saved (the pages are child widgets whose window
-//    titles are the page titles); on load its "currentIndex" property is applied again
-//    once the pages exist.
+//    properties (replacing any already there), so no text is stored twice. When loading a
+//    file without a "textList" property, texts in its items are used instead.
+//  - ComboBox: its items (text and icon) belong to the form writer (Designer writes them
+//    from the items' display-property roles); saveExtraInfo only puts each item's action
+//    into the <item> elements already there, and never adds or removes an item.
+//  - DrawbackBoxGroup: the pages are child widgets whose window titles are the page titles;
+//    saveExtraInfo writes "currentIndex" and each titled page's "windowTitle" (replacing
+//    any already there). On load, "currentIndex" is applied again once the pages exist.
 //
 // saveExtraInfo replaces what it wrote before, so saving the same element again adds
 // nothing. loadExtraInfo ignores unknown properties and items of widgets it does not know,
-// and pads short lists with empty entries. Both take an unused context pointer.
+// reads numbers and icon sets where strings are expected, and gives every list one entry
+// per item (empty where the item lacks it). Both take an unused context pointer.
 class VOCC_EXPORT FormBuilder : public QFormBuilder
 {
 public:
