@@ -11,6 +11,8 @@ namespace VoCc {
 namespace {
 const int TitlePadding = 4;
 const int ArrowSize = 9;
+// Marks the children that collapsing hid.
+const char *const collapsedProperty = "_vocc_paneCollapsed";
 } // namespace
 
 Pane::Pane(QWidget *parent) : QWidget(parent)
@@ -36,31 +38,51 @@ void Pane::setExpanded(bool expanded)
     m_expanded = expanded;
     // Collapsed, the pane is only its title bar: the children are hidden and the height is
     // held to the bar's, to be given back on expanding.
-    const QList<QWidget *> children =
-            findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
     if (expanded) {
         setMaximumHeight(m_expandedMaximumHeight);
         // Inside a layout the layout gives the height back; a free pane takes its own.
         if (!parentWidget() || !parentWidget()->layout())
             resize(width(), qMax(m_expandedHeight, minimumSizeHint().height()));
+        const QList<QWidget *> children =
+                findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
         for (QWidget *child : children) {
-            if (!child->property("ccPaneHidden").toBool())
+            if (child->property(collapsedProperty).toBool()) {
+                child->setProperty(collapsedProperty, QVariant());
                 child->show();
-            child->setProperty("ccPaneHidden", QVariant());
+            }
         }
     } else {
         m_expandedMaximumHeight = maximumHeight();
         m_expandedHeight = height();
-        for (QWidget *child : children) {
-            if (child->isHidden())
-                child->setProperty("ccPaneHidden", true);
-            child->hide();
-        }
+        hideChildren();
         setMaximumHeight(titleBarHeight());
     }
     updateGeometry();
     update();
     emit expandedChanged(expanded);
+}
+
+void Pane::hideChildren()
+{
+    // Only the children this pane hides come back on expanding; those hidden by anyone else
+    // stay hidden.
+    const QList<QWidget *> children =
+            findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
+    for (QWidget *child : children) {
+        if (!child->isHidden()) {
+            child->setProperty(collapsedProperty, true);
+            child->hide();
+        }
+    }
+}
+
+void Pane::showEvent(QShowEvent *event)
+{
+    // A pane collapsed before its children were made (a form loader sets properties first)
+    // hides them when it is shown.
+    if (!m_expanded)
+        hideChildren();
+    QWidget::showEvent(event);
 }
 
 QSize Pane::sizeHint() const

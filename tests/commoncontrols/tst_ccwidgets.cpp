@@ -631,6 +631,15 @@ void TestCcWidgets::paneAndForm()
     QTest::mouseClick(&pane, Qt::LeftButton, {}, QPoint(20, pane.height() - 5));
     QVERIFY(pane.isExpanded());
 
+    // Collapsed before its children exist, as a loaded form is: they are hidden on show.
+    Pane collapsedFirst;
+    collapsedFirst.setExpanded(false);
+    auto *late = new QLabel(QStringLiteral("late"), &collapsedFirst);
+    collapsedFirst.show();
+    QVERIFY(late->isHidden());
+    collapsedFirst.setExpanded(true);
+    QVERIFY(!late->isHidden());
+
     Form form;
     const QMetaProperty mode =
             form.metaObject()->property(form.metaObject()->indexOfProperty("mode"));

@@ -33,11 +33,13 @@ protected:
     void paintEvent(QPaintEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void changeEvent(QEvent *event) override;
+    void showEvent(QShowEvent *event) override;
 
 private:
     int titleBarHeight() const;
     QRect titleBarRect() const;
     void updateMargins();
+    void hideChildren();
 
     QString m_title;
     bool m_expanded = true;
