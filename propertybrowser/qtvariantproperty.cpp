@@ -436,7 +436,7 @@ public:
 
     bool isOwnType(const Data &data) const { return typeSpec(data.propertyType) != nullptr; }
 
-    void createFields(QtProperty *property, Data &data);
+    void createFields(QtProperty *property, int propertyType);
     void createFlagFields(QtProperty *property);
     void deleteFields(QtProperty *property);
     void updateFields(QtProperty *property);
@@ -459,10 +459,10 @@ QStringList QtVariantPropertyManagerPrivate::fontFamilies()
     return families;
 }
 
-void QtVariantPropertyManagerPrivate::createFields(QtProperty *property, Data &data)
+void QtVariantPropertyManagerPrivate::createFields(QtProperty *property, int propertyType)
 {
-    const int valueType = typeSpec(data.propertyType)->valueType;
-    if (data.propertyType == QtVariantPropertyManager::flagTypeId()) {
+    const int valueType = typeSpec(propertyType)->valueType;
+    if (propertyType == QtVariantPropertyManager::flagTypeId()) {
         createFlagFields(property);
         return;
     }
@@ -470,8 +470,10 @@ void QtVariantPropertyManagerPrivate::createFields(QtProperty *property, Data &d
     for (const FieldSpec &field : fields) {
         const int fieldType =
                 field.propertyType ? field.propertyType : QtVariantPropertyManager::enumTypeId();
-        QtVariantProperty *sub =
-                q_ptr->QtVariantPropertyManager::addProperty(fieldType, translated(field.name));
+        // Through the public entry point, so a subclass sees every property it manages made.
+        QtVariantProperty *sub = q_ptr->addProperty(fieldType, translated(field.name));
+        if (!sub)
+            continue;
         if (fieldType == QMetaType::Int) {
             m_data[sub].attributes.insert(minimumAttribute(), field.minimum);
             m_data[sub].attributes.insert(maximumAttribute(), field.maximum);
@@ -491,8 +493,9 @@ void QtVariantPropertyManagerPrivate::createFlagFields(QtProperty *property)
     const QStringList names =
             m_data.value(property).attributes.value(flagNamesAttribute()).toStringList();
     for (const QString &name : names) {
-        QtVariantProperty *sub =
-                q_ptr->QtVariantPropertyManager::addProperty(QMetaType::Bool, name);
+        QtVariantProperty *sub = q_ptr->addProperty(QMetaType::Bool, name);
+        if (!sub)
+            continue;
         m_fieldParent.insert(sub, property);
         m_data[property].fields.append(sub);
         property->addSubProperty(sub);
@@ -929,7 +932,7 @@ void QtVariantPropertyManager::initializeProperty(QtProperty *property)
     data.value = spec->initialValue;
     for (const AttributeSpec &attribute : spec->attributes)
         data.attributes.insert(attribute.name, attribute.initial);
-    d_ptr->createFields(property, data);
+    d_ptr->createFields(property, data.propertyType);
     d_ptr->updateFields(property);
 }
 

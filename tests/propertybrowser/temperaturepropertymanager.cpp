@@ -6,6 +6,12 @@ TemperaturePropertyManager::~TemperaturePropertyManager() { clear(); }
 
 int TemperaturePropertyManager::temperatureTypeId() { return qMetaTypeId<Temperature>(); }
 
+QtVariantProperty *TemperaturePropertyManager::addProperty(int propertyType, const QString &name)
+{
+    ++m_made[propertyType];
+    return QtVariantPropertyManager::addProperty(propertyType, name);
+}
+
 bool TemperaturePropertyManager::isPropertyTypeSupported(int propertyType) const
 {
     return propertyType == temperatureTypeId()

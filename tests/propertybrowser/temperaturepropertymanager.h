@@ -33,6 +33,10 @@ public:
     QVariant value(const QtProperty *property) const override;
     QVariant attributeValue(const QtProperty *property, const QString &attribute) const override;
 
+    QtVariantProperty *addProperty(int propertyType, const QString &name = QString()) override;
+    // How many properties of a type went through addProperty(), sub-properties included.
+    int propertiesMade(int propertyType) const { return m_made.value(propertyType); }
+
     // Making the protected text reachable for the tests.
     QString text(const QtProperty *property) const { return valueText(property); }
 
@@ -53,4 +57,5 @@ private:
         bool fahrenheit = false;
     };
     QHash<const QtProperty *, Data> m_data;
+    QHash<int, int> m_made;
 };

@@ -470,9 +470,14 @@ void TestVariantPropertyManager::subclassAddsType()
     QCOMPARE(temperature->attributeValue(QStringLiteral("fahrenheit")).toBool(), true);
     QCOMPARE(temperature->valueText(), QStringLiteral("70.7 F"));
 
-    // The base's own types still work in the subclass.
+    // The base's own types still work in the subclass, and their sub-properties are made
+    // through the subclass's addProperty() too.
     QtVariantProperty *font = manager.addProperty(QMetaType::QFont, QStringLiteral("font"));
     QCOMPARE(font->subProperties().size(), 7);
+    QCOMPARE(manager.propertiesMade(QMetaType::QFont), 1);
+    QCOMPARE(manager.propertiesMade(QMetaType::Bool), 5);
+    QCOMPARE(manager.propertiesMade(QMetaType::Int), 1);
+    QCOMPARE(manager.propertiesMade(QtVariantPropertyManager::enumTypeId()), 1);
     manager.variantProperty(font->subProperties().at(2))->setValue(true);
     QVERIFY(font->value().value<QFont>().bold());
 }
