@@ -14,6 +14,8 @@
 #include <QtDesigner/private/textpropertyeditor_p.h>
 
 #include <QAction>
+#include <QCheckBox>
+#include <QComboBox>
 #include <QDesignerFormWindowInterface>
 #include <QFileDialog>
 #include <QHBoxLayout>
@@ -450,9 +452,12 @@ void TestItemListEditor::editingValuesInThePaneSetsAndMirrorsRoles()
     QVERIFY(icon->isModified());
     QCOMPARE(icon->valueText(), QStringLiteral("red.png"));
 
-    // Font: one part set; the item's font is resolved against the list's.
+    // Font: one part ticked in the tree; the item's font is resolved against the list's.
     QtVariantProperty *font = propertyNamed(*editor, "font");
-    subPropertyNamed(font, QStringLiteral("Bold"))->setValue(true);
+    auto *boldBox =
+            CcTest::openEditor<QCheckBox>(browser, subPropertyNamed(font, QStringLiteral("Bold")));
+    QVERIFY(boldBox);
+    boldBox->click();
     const QFont itemFont = qvariant_cast<QFont>(item->data(Qt::FontRole));
     QVERIFY(itemFont.bold());
     QVERIFY(itemFont.resolve() & QFont::WeightResolved);
@@ -462,13 +467,20 @@ void TestItemListEditor::editingValuesInThePaneSetsAndMirrorsRoles()
 
     // Flags, with the bit of one named flag cleared through its sub-property.
     QtVariantProperty *flags = propertyNamed(*editor, "flags");
-    subPropertyNamed(flags, QStringLiteral("Enabled"))->setValue(false);
+    auto *enabledBox = CcTest::openEditor<QCheckBox>(
+            browser, subPropertyNamed(flags, QStringLiteral("Enabled")));
+    QVERIFY(enabledBox);
+    QVERIFY(enabledBox->isChecked());
+    enabledBox->click();
     QCOMPARE(item->data(ItemFlagsRole).toInt(), freshItemFlags() & ~int(Qt::ItemIsEnabled));
     QVERIFY(flags->isModified());
 
-    // Enum: check state by index.
+    // Enum: check state chosen by name in the tree.
     QtVariantProperty *checkState = propertyNamed(*editor, "checkState");
-    checkState->setValue(2);
+    auto *stateBox = CcTest::openEditor<QComboBox>(browser, checkState);
+    QVERIFY(stateBox);
+    QCOMPARE(stateBox->count(), 3);
+    stateBox->setCurrentIndex(stateBox->findText(QStringLiteral("Checked")));
     QCOMPARE(item->data(Qt::CheckStateRole).toInt(), int(Qt::Checked));
     QCOMPARE(checkState->valueText(), QStringLiteral("Checked"));
     QVERIFY(checkState->isModified());

@@ -111,7 +111,6 @@ private slots:
     void stringTranslationDataAsSubProperties();
     void iconValuesWithStatesThemeAndCache();
     void fontPartsResetOneByOne();
-    void flagsAndEnumsByName();
     void resetButtonsFollowTheModifiedState();
     void coexistsWithDesignersOwnPropertyEditor();
 
@@ -459,37 +458,6 @@ void TestDesignerPropertyComponents::fontPartsResetOneByOne()
     QVERIFY(!pane.manager.resetFontSubProperty(other));
 }
 
-void TestDesignerPropertyComponents::flagsAndEnumsByName()
-{
-    Pane pane(m_core);
-    QtVariantProperty *flags = pane.add(QtVariantPropertyManager::flagTypeId(), "flags");
-    flags->setAttribute(QStringLiteral("flagNames"),
-                        QStringList({"Selectable", "Editable", "DragEnabled"}));
-    QCOMPARE(names(flags->subProperties()), QStringList({"Selectable", "Editable", "DragEnabled"}));
-    flags->setValue(int(Qt::ItemIsSelectable | Qt::ItemIsDragEnabled));
-    QCOMPARE(sub(flags, QStringLiteral("DragEnabled"))->value(), QVariant(true));
-    QCOMPARE(sub(flags, QStringLiteral("Editable"))->value(), QVariant(false));
-    sub(flags, QStringLiteral("Editable"))->setValue(true);
-    QCOMPARE(flags->value().toInt(),
-             int(Qt::ItemIsSelectable | Qt::ItemIsEditable | Qt::ItemIsDragEnabled));
-
-    QtVariantProperty *state = pane.add(QtVariantPropertyManager::enumTypeId(), "state");
-    state->setAttribute(QStringLiteral("enumNames"),
-                        QStringList({"Unchecked", "PartiallyChecked", "Checked"}));
-    state->setValue(1);
-    QCOMPARE(state->valueText(), QStringLiteral("PartiallyChecked"));
-    QCOMPARE(state->valueType(), int(QVariant::Int));
-
-    // Both keep "resettable" as every property does.
-    QVERIFY(pane.manager.attributes(QtVariantPropertyManager::flagTypeId())
-                    .contains(QStringLiteral("resettable")));
-    QCOMPARE(pane.manager.attributeType(QtVariantPropertyManager::enumTypeId(),
-                                        QStringLiteral("resettable")),
-             int(QVariant::Bool));
-    QCOMPARE(state->attributeValue(QStringLiteral("resettable")), QVariant(true));
-    QVERIFY(CcTest::openEditor<ResetWidget>(&pane.browser, state));
-}
-
 void TestDesignerPropertyComponents::resetButtonsFollowTheModifiedState()
 {
     Pane pane(m_core);
@@ -529,6 +497,18 @@ void TestDesignerPropertyComponents::resetButtonsFollowTheModifiedState()
     QTest::mouseClick(reset->resetButton(), Qt::LeftButton); // disabled: nothing
     QCOMPARE(resets.size(), 1);
     QCOMPARE(stringOf(resettable->value()).value(), QStringLiteral("kept"));
+
+    // The variant manager's own types take "resettable" too, and get the button.
+    const int enumType = QtVariantPropertyManager::enumTypeId();
+    QVERIFY(pane.manager.attributes(enumType).contains(QStringLiteral("resettable")));
+    QVERIFY(pane.manager.attributes(enumType).contains(QStringLiteral("enumNames")));
+    QCOMPARE(pane.manager.attributeType(enumType, QStringLiteral("resettable")),
+             int(QVariant::Bool));
+    QtVariantProperty *state = pane.add(enumType, "state");
+    state->setAttribute(QStringLiteral("enumNames"),
+                        QStringList({"Unchecked", "PartiallyChecked", "Checked"}));
+    QCOMPARE(state->attributeValue(QStringLiteral("resettable")), QVariant(true));
+    QVERIFY(CcTest::openEditor<ResetWidget>(&pane.browser, state));
 }
 
 void TestDesignerPropertyComponents::coexistsWithDesignersOwnPropertyEditor()
