@@ -10,7 +10,6 @@
 #include <QtDesigner/private/qdesigner_utils_p.h>
 
 #include <QSignalBlocker>
-#include <algorithm>
 
 namespace qdesigner_internal {
 
@@ -148,13 +147,8 @@ void DesignerEditorFactory::slotEditorDestroyed(QObject *object)
     auto it = m_editors.find(property);
     if (it == m_editors.end())
         return;
-    QVector<QWidget *> &editors = it.value();
-    // Only the address is compared: the editor is past its own destructor.
-    editors.erase(
-            std::remove_if(editors.begin(), editors.end(),
-                           [object](QWidget *w) { return static_cast<QObject *>(w) == object; }),
-            editors.end());
-    if (editors.isEmpty())
+    it->removeAll(object);
+    if (it->isEmpty())
         m_editors.erase(it);
 }
 
@@ -185,9 +179,9 @@ void DesignerEditorFactory::showValue(QWidget *editor, QtProperty *property, con
 
 void DesignerEditorFactory::slotValueChanged(QtProperty *property, const QVariant &value)
 {
-    const QVector<QWidget *> editors = m_editors.value(property);
-    for (QWidget *editor : editors)
-        showValue(editor, property, value);
+    const QVector<QObject *> editors = m_editors.value(property);
+    for (QObject *editor : editors)
+        showValue(static_cast<QWidget *>(editor), property, value);
 }
 
 void DesignerEditorFactory::slotAttributeChanged(QtProperty *property, const QString &attribute,
@@ -195,8 +189,8 @@ void DesignerEditorFactory::slotAttributeChanged(QtProperty *property, const QSt
 {
     if (attribute != QLatin1String("validationMode"))
         return;
-    const QVector<QWidget *> editors = m_editors.value(property);
-    for (QWidget *editor : editors) {
+    const QVector<QObject *> editors = m_editors.value(property);
+    for (QObject *editor : editors) {
         if (auto *textEditor = qobject_cast<TextEditor *>(editor))
             textEditor->setTextPropertyValidationMode(TextPropertyValidationMode(value.toInt()));
     }

@@ -61,7 +61,8 @@ private:
     ResetDecorator *m_resetDecorator;
     QPointer<FormWindowBase> m_formWindow;
     int m_spacing = -1;
-    QHash<QtProperty *, QVector<QWidget *>> m_editors;
+    // Kept as QObject pointers: they are compared after the editors are gone.
+    QHash<QtProperty *, QVector<QObject *>> m_editors;
     QHash<QObject *, QtProperty *> m_editorToProperty;
 };
 

@@ -4,8 +4,6 @@
 
 #include "qtpropertybrowser.h"
 
-#include <algorithm>
-
 namespace qdesigner_internal {
 
 ResetDecorator::ResetDecorator(QDesignerFormEditorInterface *core, QObject *parent)
@@ -60,8 +58,9 @@ QWidget *ResetDecorator::editor(QWidget *subEditor, bool resettable,
 
 void ResetDecorator::slotPropertyChanged(QtProperty *property)
 {
-    const QVector<ResetWidget *> widgets = m_createdResetWidgets.value(property);
-    for (ResetWidget *widget : widgets) {
+    const QVector<QObject *> widgets = m_createdResetWidgets.value(property);
+    for (QObject *object : widgets) {
+        auto *widget = static_cast<ResetWidget *>(object);
         widget->setResetEnabled(property->isModified());
         widget->setValueText(property->valueText());
         widget->setValueIcon(property->valueIcon());
@@ -76,12 +75,7 @@ void ResetDecorator::slotEditorDestroyed(QObject *object)
     auto it = m_createdResetWidgets.find(property);
     if (it == m_createdResetWidgets.end())
         return;
-    // Only the address is compared: the widget is past its own destructor.
-    QVector<ResetWidget *> &widgets = it.value();
-    widgets.erase(std::remove_if(
-                          widgets.begin(), widgets.end(),
-                          [object](ResetWidget *w) { return static_cast<QObject *>(w) == object; }),
-                  widgets.end());
+    it->removeAll(object);
     if (it->isEmpty())
         m_createdResetWidgets.erase(it);
 }

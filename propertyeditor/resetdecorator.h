@@ -41,7 +41,8 @@ private slots:
 
 private:
     QDesignerFormEditorInterface *m_core;
-    QHash<QtProperty *, QVector<ResetWidget *>> m_createdResetWidgets;
+    // Kept as QObject pointers: they are compared after the widgets are gone.
+    QHash<QtProperty *, QVector<QObject *>> m_createdResetWidgets;
     QHash<QObject *, QtProperty *> m_resetWidgetToProperty;
     int m_spacing = -1;
 };
