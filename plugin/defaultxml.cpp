@@ -25,7 +25,8 @@ const char pane[] = R"xml(<widget class="VoCc::Pane" name="pane">
 </widget>
 )xml";
 
-const char matrixPopButtons[] = R"xml(<widget class="VoCc::MatrixPopButtons" name="matrixPopButtons">
+const char matrixPopButtons[] =
+        R"xml(<widget class="VoCc::MatrixPopButtons" name="matrixPopButtons">
  <property name="id" stdset="0">
   <number></number>
  </property>

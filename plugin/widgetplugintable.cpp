@@ -58,10 +58,7 @@ QWidget *make(QWidget *parent)
     return new WidgetClass(parent);
 }
 
-QWidget *makeColorPanel(QWidget *parent)
-{
-    return new VoCc::ColorPanel(parent, Qt::WindowFlags());
-}
+QWidget *makeColorPanel(QWidget *parent) { return new VoCc::ColorPanel(parent, Qt::WindowFlags()); }
 
 const char templates[] = "Tarn Template Widgets";
 const char widgets[] = "Tarn Widgets";
@@ -128,15 +125,9 @@ static const WidgetPluginRow rows[] = {
 
 #undef PLUGIN
 
-const WidgetPluginRow *widgetPluginRows()
-{
-    return rows;
-}
+const WidgetPluginRow *widgetPluginRows() { return rows; }
 
-int widgetPluginCount()
-{
-    return int(sizeof(rows) / sizeof(rows[0]));
-}
+int widgetPluginCount() { return int(sizeof(rows) / sizeof(rows[0])); }
 
 const WidgetPluginRow *widgetPluginRow(const QMetaObject *plugin)
 {
