@@ -1,3 +1,4 @@
+#include <QLibrary>
 #include <QPluginLoader>
 #include <QPointer>
 #include <QtTest>
@@ -51,6 +52,19 @@ private slots:
         QCOMPARE(fresh->customWidgets().size(), 44);
         QVERIFY(!fresh->customWidgets().constFirst()->isInitialized());
         QCOMPARE(fresh->customWidgets().constFirst()->name(), QStringLiteral("VoCc::Angle"));
+    }
+
+    void exportsOnlyItsEntryPoints()
+    {
+        // Designer links its own classes of similar names; nothing of ours may be visible.
+        QLibrary module(QStringLiteral(CC_PLUGIN_MODULE));
+        QVERIFY(module.resolve("qt_plugin_instance"));
+        QVERIFY(module.resolve("qt_plugin_query_metadata"));
+        const char *internals[] = {"_ZTV11AnglePlugin", "_ZN8CpPlugin16staticMetaObjectE",
+                                   "_ZTV34DrawbackBoxGroupContainerExtension",
+                                   "_ZTV18ExtraInfoExtension", "_Z16widgetPluginRowsv"};
+        for (const char *symbol : internals)
+            QVERIFY2(!module.resolve(symbol), symbol);
     }
 };
 
