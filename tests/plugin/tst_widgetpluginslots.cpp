@@ -120,7 +120,7 @@ private slots:
         visible->show();
         QVERIFY(QTest::qWaitForWindowExposed(visible.data()));
         editor->setObject(visible.data());
-        QTest::qWait(20);
+        QTest::qWait(100);
         PaintCounter paints;
         visible->installEventFilter(&paints);
         emit editor->propertyChanged(QStringLiteral("toolTip"), QStringLiteral("c"));
@@ -129,7 +129,7 @@ private slots:
         // Another class's plug-in leaves the list view alone.
         QObject *treePlugin = pluginObject("TreeViewPlugin");
         QVERIFY(treePlugin);
-        QTest::qWait(20);
+        QTest::qWait(100);
         paints.paints = 0;
         QMetaObject::invokeMethod(treePlugin, "propertyChanged", Q_ARG(QString, QString()),
                                   Q_ARG(QVariant, QVariant()));
