@@ -89,7 +89,7 @@ template<class T>
 std::shared_ptr<bool> whenModal(std::function<void(T *)> act)
 {
     auto done = std::make_shared<bool>(false);
-    auto *timer = new QTimer;
+    auto *timer = new QTimer(qApp); // gone with the application at the latest
     auto clock = std::make_shared<QElapsedTimer>();
     auto sinceAct = std::make_shared<QElapsedTimer>();
     auto answered = std::make_shared<QPointer<T>>();

@@ -43,7 +43,11 @@ struct Pane
         browser.resize(400, 500);
         browser.show();
     }
-    ~Pane() { browser.clear(); }
+    ~Pane()
+    {
+        browser.clear();
+        CcTest::settle(); // closed editors go now, not after the test
+    }
 
     QtVariantProperty *add(int type, const char *name, bool resettable = true)
     {
