@@ -336,12 +336,19 @@ void TestTreePropertyBrowser::editText()
     QCOMPARE(text->value().toString(), QStringLiteral("Left behind"));
     QTRY_VERIFY(!guard); // the editor of the row left behind is gone
 
-    // The keyboard opens the editor of the current row too.
-    treeOf(browser)->setFocus();
+    // The keyboard opens the editor of the current row too: Enter, or F2 as in any view.
+    QTreeWidget *tree = treeOf(browser);
+    tree->setFocus();
     browser->setCurrentItem(browser->topLevelItem(text));
-    QTest::keyClick(treeOf(browser), Qt::Key_Return);
-    QVERIFY(qobject_cast<QLineEdit *>(
-            treeOf(browser)->indexWidget(treeOf(browser)->currentIndex())));
+    QTest::keyClick(tree, Qt::Key_Return);
+    QVERIFY(qobject_cast<QLineEdit *>(tree->indexWidget(tree->currentIndex())));
+    QTest::keyClick(tree->indexWidget(tree->currentIndex()), Qt::Key_Escape);
+    tree->setFocus();
+    QTest::keyClick(tree, Qt::Key_Down);
+    QCOMPARE(browser->currentItem(), browser->topLevelItems().at(1));
+    QVERIFY(!tree->indexWidget(tree->currentIndex())); // moving does not open editors
+    QTest::keyClick(tree, Qt::Key_F2);
+    QVERIFY(qobject_cast<QSpinBox *>(tree->indexWidget(tree->currentIndex())));
 }
 
 void TestTreePropertyBrowser::editNumbersChecksAndChoices()
