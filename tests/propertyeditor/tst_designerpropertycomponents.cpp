@@ -378,6 +378,14 @@ void TestDesignerPropertyComponents::iconValuesWithStatesThemeAndCache()
     QCOMPARE(value.pixmap(QIcon::Normal, QIcon::Off).path(), m_bluePicture);
     QCOMPARE(editor->displayText(), QStringLiteral("blue.png"));
 
+    // Designer's resource chooser opens from the same editor; cancelled, nothing changes.
+    const PropertySheetIconValue beforeResource = iconOf(icon->value());
+    auto resourceDialog = CcTest::whenModal<QDialog>(
+            [](QDialog *dialog) { QMetaObject::invokeMethod(dialog, "reject"); });
+    editor->chooseResourceAction()->trigger();
+    QVERIFY(*resourceDialog);
+    QCOMPARE(iconOf(icon->value()), beforeResource);
+
     // A theme alone is shown by name.
     PropertySheetIconValue themeOnly;
     themeOnly.setTheme(QStringLiteral("document-open"));
