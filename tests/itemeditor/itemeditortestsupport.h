@@ -1,8 +1,8 @@
 #pragma once
 
-// Helpers shared by the item editor tests: a property table with one row of every kind, a
-// test picture on disk, opening a property's editor in the pane as a user would, and
-// answering a modal dialog from a timer.
+// Helpers shared by the item editor and property component tests: a property table with one
+// row of every kind, test pictures on disk, opening a property's editor in the pane as a
+// user would, and answering a modal dialog from a timer.
 
 #include "designerpropertymanager.h"
 #include "propertydefinition.h"
@@ -14,27 +14,25 @@
 #include <QElapsedTimer>
 #include <QFileDialog>
 #include <QLineEdit>
-#include <QPainter>
 #include <QPixmap>
 #include <QPointer>
-#include <QTest>
+#include <QTemporaryDir>
 #include <QTimer>
-#include <QWidget>
 #include <functional>
+#include <memory>
 
 namespace CcTest {
 
 inline const qdesigner_internal::PropertyDefinition *allItemProperties()
 {
     using qdesigner_internal::DesignerPropertyManager;
+    const auto string = DesignerPropertyManager::designerStringTypeId;
     static const qdesigner_internal::PropertyDefinition table[] = {
-            {Qt::DisplayPropertyRole, 0, DesignerPropertyManager::designerStringTypeId, "text"},
+            {Qt::DisplayPropertyRole, 0, string, "text"},
             {Qt::DecorationPropertyRole, 0, DesignerPropertyManager::designerIconTypeId, "icon"},
-            {Qt::ToolTipPropertyRole, 0, DesignerPropertyManager::designerStringTypeId, "toolTip"},
-            {Qt::StatusTipPropertyRole, 0, DesignerPropertyManager::designerStringTypeId,
-             "statusTip"},
-            {Qt::WhatsThisPropertyRole, 0, DesignerPropertyManager::designerStringTypeId,
-             "whatsThis"},
+            {Qt::ToolTipPropertyRole, 0, string, "toolTip"},
+            {Qt::StatusTipPropertyRole, 0, string, "statusTip"},
+            {Qt::WhatsThisPropertyRole, 0, string, "whatsThis"},
             {Qt::FontRole, QVariant::Font, nullptr, "font"},
             {Qt::CheckStateRole, 0, QtVariantPropertyManager::enumTypeId, "checkState"},
             {qdesigner_internal::ItemFlagsRole, 0, QtVariantPropertyManager::flagTypeId, "flags"},
@@ -42,15 +40,29 @@ inline const qdesigner_internal::PropertyDefinition *allItemProperties()
     return table;
 }
 
-// A small coloured square saved as PNG at path.
-inline bool writeTestPicture(const QString &path, const QColor &color)
+// A red and a blue 16x16 PNG in a temporary folder.
+struct TestPictures
 {
-    QPixmap pixmap(16, 16);
-    pixmap.fill(color);
-    QPainter painter(&pixmap);
-    painter.drawRect(0, 0, 15, 15);
-    painter.end();
-    return pixmap.save(path, "PNG");
+    QString write(const QColor &color, const QString &name)
+    {
+        QPixmap pixmap(16, 16);
+        pixmap.fill(color);
+        const QString path = dir.filePath(name);
+        return pixmap.save(path, "PNG") ? path : QString();
+    }
+    QTemporaryDir dir;
+    const QString red = write(Qt::red, QStringLiteral("red.png"));
+    const QString blue = write(Qt::blue, QStringLiteral("blue.png"));
+};
+
+inline QtVariantProperty *subProperty(QtProperty *property, const QString &name)
+{
+    const QList<QtProperty *> subs = property->subProperties();
+    for (QtProperty *sub : subs) {
+        if (sub->propertyName() == name)
+            return static_cast<QtVariantProperty *>(sub);
+    }
+    return nullptr;
 }
 
 // Lets queued work and deferred deletions (closed editors) happen.
@@ -65,13 +77,10 @@ inline void settle()
 template<class T>
 T *openEditor(QtTreePropertyBrowser *browser, QtProperty *property)
 {
-    QtBrowserItem *item = nullptr;
     const QList<QtBrowserItem *> items = browser->items(property);
-    if (!items.isEmpty())
-        item = items.first();
-    if (!item)
+    if (items.isEmpty())
         return nullptr;
-    browser->editItem(item);
+    browser->editItem(items.first());
     settle();
     const QList<T *> editors = browser->findChildren<T *>();
     for (T *editor : editors) {
@@ -119,9 +128,6 @@ inline void answerFileDialog(QFileDialog *dialog, const QString &path)
     else
         dialog->selectFile(path);
     QMetaObject::invokeMethod(dialog, "accept");
-    if (dialog->isVisible())
-        qWarning("file dialog still open, selected: %s",
-                 qPrintable(dialog->selectedFiles().join(QLatin1Char(' '))));
 }
 
 } // namespace CcTest
