@@ -9,6 +9,8 @@
 #include "qttreepropertybrowser.h"
 #include "qtvariantproperty.h"
 
+#include <QtDesigner/private/qdesigner_utils_p.h>
+
 #include <QApplication>
 #include <QColor>
 #include <QElapsedTimer>
@@ -54,6 +56,17 @@ struct TestPictures
     const QString red = write(Qt::red, QStringLiteral("red.png"));
     const QString blue = write(Qt::blue, QStringLiteral("blue.png"));
 };
+
+inline QVariant stringValue(const QString &text)
+{
+    return QVariant::fromValue(qdesigner_internal::PropertySheetStringValue(text));
+}
+
+inline QVariant iconValue(const QString &path)
+{
+    using namespace qdesigner_internal;
+    return QVariant::fromValue(PropertySheetIconValue(PropertySheetPixmapValue(path)));
+}
 
 inline QtVariantProperty *subProperty(QtProperty *property, const QString &name)
 {
@@ -120,14 +133,27 @@ std::shared_ptr<bool> whenModal(std::function<void(T *)> act)
     return done;
 }
 
-// Picks a file in a file dialog as a user typing its full path does, and accepts.
-inline void answerFileDialog(QFileDialog *dialog, const QString &path)
+// Opens a modal dialog of type T through open(), runs act on it and accepts or rejects it.
+// Tells whether the dialog was seen.
+template<class T>
+bool answerModal(const std::function<void()> &open, const std::function<void(T *)> &act,
+                 bool accept = true)
+{
+    auto done = whenModal<T>([act, accept](T *dialog) {
+        act(dialog);
+        QMetaObject::invokeMethod(dialog, accept ? "accept" : "reject");
+    });
+    open();
+    return *done;
+}
+
+// Picks a file in a file dialog as a user typing its full path does.
+inline void typeFileName(QFileDialog *dialog, const QString &path)
 {
     if (auto *edit = dialog->findChild<QLineEdit *>(QStringLiteral("fileNameEdit")))
         edit->setText(path);
     else
         dialog->selectFile(path);
-    QMetaObject::invokeMethod(dialog, "accept");
 }
 
 } // namespace CcTest
