@@ -21,7 +21,6 @@ QWidget *TemperatureEditorFactory::createEditor(QtVariantPropertyManager *manage
         frame->setAutoFillBackground(true);
         return frame;
     }
-    ++m_editorsMade;
     auto *editor = new QLineEdit(parent);
     editor->setAutoFillBackground(true);
     editor->setText(QString::number(manager->value(property).value<Temperature>().celsius));

@@ -10,12 +10,7 @@ class TemperatureEditorFactory : public QtVariantEditorFactory
 public:
     using QtVariantEditorFactory::QtVariantEditorFactory;
 
-    int editorsMade() const { return m_editorsMade; }
-
 protected:
     QWidget *createEditor(QtVariantPropertyManager *manager, QtProperty *property,
                           QWidget *parent) override;
-
-private:
-    int m_editorsMade = 0;
 };

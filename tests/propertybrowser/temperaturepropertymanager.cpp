@@ -24,19 +24,6 @@ int TemperaturePropertyManager::valueType(int propertyType) const
                                                : QtVariantPropertyManager::valueType(propertyType);
 }
 
-QStringList TemperaturePropertyManager::attributes(int propertyType) const
-{
-    return propertyType == temperatureTypeId() ? QStringList {unitAttribute()}
-                                               : QtVariantPropertyManager::attributes(propertyType);
-}
-
-int TemperaturePropertyManager::attributeType(int propertyType, const QString &attribute) const
-{
-    if (propertyType == temperatureTypeId())
-        return attribute == unitAttribute() ? int(QMetaType::Bool) : int(QMetaType::UnknownType);
-    return QtVariantPropertyManager::attributeType(propertyType, attribute);
-}
-
 QVariant TemperaturePropertyManager::value(const QtProperty *property) const
 {
     auto it = m_data.constFind(property);

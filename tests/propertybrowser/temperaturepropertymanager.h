@@ -28,17 +28,12 @@ public:
 
     bool isPropertyTypeSupported(int propertyType) const override;
     int valueType(int propertyType) const override;
-    QStringList attributes(int propertyType) const override;
-    int attributeType(int propertyType, const QString &attribute) const override;
     QVariant value(const QtProperty *property) const override;
     QVariant attributeValue(const QtProperty *property, const QString &attribute) const override;
 
     QtVariantProperty *addProperty(int propertyType, const QString &name = QString()) override;
     // How many properties of a type went through addProperty(), sub-properties included.
     int propertiesMade(int propertyType) const { return m_made.value(propertyType); }
-
-    // Making the protected text reachable for the tests.
-    QString text(const QtProperty *property) const { return valueText(property); }
 
 public Q_SLOTS:
     void setValue(QtProperty *property, const QVariant &value) override;

@@ -160,66 +160,52 @@ void TestTreePropertyBrowser::rowsFollowProperties()
 {
     Pane pane;
     QtTreePropertyBrowser *browser = pane.browser.get();
-    QtVariantPropertyManager *manager = pane.manager.get();
     QTreeWidget *tree = treeOf(browser);
-    QtVariantProperty *a = manager->addProperty(QMetaType::Int, QStringLiteral("a"));
-    QtVariantProperty *b = manager->addProperty(QMetaType::Int, QStringLiteral("b"));
-    QtVariantProperty *c = manager->addProperty(QMetaType::Int, QStringLiteral("c"));
-
-    QtBrowserItem *itemB = browser->addProperty(b);
+    QtVariantProperty *a = pane.manager->addProperty(QMetaType::Int, QStringLiteral("a"));
+    QtVariantProperty *b = pane.add(QMetaType::Int, "b");
+    QtVariantProperty *c = pane.manager->addProperty(QMetaType::Int, QStringLiteral("c"));
     QVERIFY(!browser->addProperty(b)); // once only
     QtBrowserItem *itemA = browser->insertProperty(a, nullptr);
     QtBrowserItem *itemC = browser->insertProperty(c, b);
-    // Only after a top-level property.
-    QVERIFY(!browser->insertProperty(manager->addProperty(QMetaType::Int),
-                                     manager->addProperty(QMetaType::Int)));
-    QCOMPARE(browser->properties(), QList<QtProperty *>({a, b, c}));
-    QCOMPARE(browser->topLevelItems(), QList<QtBrowserItem *>({itemA, itemB, itemC}));
-    QCOMPARE(browser->topLevelItem(c), itemC);
+    QtVariantProperty *notShown = pane.manager->addProperty(QMetaType::Int);
+    QVERIFY(!browser->insertProperty(pane.manager->addProperty(QMetaType::Int), notShown));
+    QCOMPARE(browser->topLevelItems(),
+             QList<QtBrowserItem *>({itemA, browser->topLevelItem(b), itemC}));
     QCOMPARE(rowNames(tree), QStringList({"a", "b", "c"}));
-
     browser->removeProperty(b);
-    QCOMPARE(browser->topLevelItems(), QList<QtBrowserItem *>({itemA, itemC}));
     QVERIFY(browser->items(b).isEmpty());
     QCOMPARE(rowNames(tree), QStringList({"a", "c"}));
     browser->insertProperty(b, a);
-    QCOMPARE(rowNames(tree), QStringList({"a", "b", "c"}));
     delete a;
     QCOMPARE(browser->properties(), QList<QtProperty *>({b, c}));
     QCOMPARE(rowNames(tree), QStringList({"b", "c"}));
     browser->clear();
     QVERIFY(browser->topLevelItems().isEmpty());
     QCOMPARE(tree->topLevelItemCount(), 0);
-    QVERIFY(manager->properties().contains(b)); // removing deletes nothing
+    QVERIFY(pane.manager->properties().contains(b)); // removing deletes nothing
 
-    // Sub-properties follow their parents; one property under two parents shows twice.
+    // Sub-properties follow their parents; a property under two parents shows twice.
     QtVariantProperty *group = pane.add(QtVariantPropertyManager::groupTypeId(), "group");
     QtVariantProperty *other = pane.add(QtVariantPropertyManager::groupTypeId(), "other");
-    QtVariantProperty *x = manager->addProperty(QMetaType::Int, QStringLiteral("x"));
-    group->addSubProperty(b);
     group->addSubProperty(c);
-    group->insertSubProperty(x, b);
+    group->insertSubProperty(b, nullptr);
+    other->addSubProperty(b);
+    b->setValue(12);
     QTreeWidgetItem *groupRow = tree->topLevelItem(0);
-    QCOMPARE(groupRow->childCount(), 3);
-    QCOMPARE(groupRow->child(1)->text(0), QStringLiteral("x"));
-    QCOMPARE(browser->topLevelItem(group)->children().at(1)->property(), x);
-    other->addSubProperty(x);
-    x->setValue(12);
-    QCOMPARE(browser->items(x).size(), 2);
-    for (QtBrowserItem *item : browser->items(x))
+    QCOMPARE(groupRow->child(0)->text(0), QStringLiteral("b"));
+    QCOMPARE(browser->items(b).size(), 2);
+    for (QtBrowserItem *item : browser->items(b))
         QCOMPARE(rowOf(browser, item)->text(1), QStringLiteral("12"));
-    group->removeSubProperty(x);
-    QCOMPARE(groupRow->childCount(), 2);
-    delete x;
+    group->removeSubProperty(c);
+    delete b;
+    QCOMPARE(groupRow->childCount(), 0);
     QCOMPARE(tree->topLevelItem(1)->childCount(), 0);
-    QVERIFY(browser->topLevelItem(other)->children().isEmpty());
 
     QtVariantProperty *flags = pane.add(QtVariantPropertyManager::flagTypeId(), "flags");
     flags->setAttribute(QStringLiteral("flagNames"), QStringList({"A", "B", "C"}));
-    QTreeWidgetItem *flagsRow = rowOf(browser, browser->topLevelItem(flags));
-    QCOMPARE(flagsRow->childCount(), 3);
+    QCOMPARE(tree->topLevelItem(2)->childCount(), 3);
     flags->setAttribute(QStringLiteral("flagNames"), QStringList({"A"}));
-    QCOMPARE(flagsRow->childCount(), 1);
+    QCOMPARE(tree->topLevelItem(2)->childCount(), 1);
 }
 
 void TestTreePropertyBrowser::rowDisplay()
@@ -227,7 +213,6 @@ void TestTreePropertyBrowser::rowDisplay()
     Pane pane;
     QtTreePropertyBrowser *browser = pane.browser.get();
     QtVariantProperty *text = pane.add(QMetaType::QString, "text", QStringLiteral("Hi"));
-    QtVariantProperty *check = pane.add(QMetaType::Bool, "check", true);
     QtVariantProperty *font = pane.add(QMetaType::QFont, "font");
     QtVariantProperty *group = pane.add(QtVariantPropertyManager::groupTypeId(), "A group");
     QTreeWidgetItem *textRow = rowOf(browser, browser->topLevelItem(text));
@@ -235,9 +220,6 @@ void TestTreePropertyBrowser::rowDisplay()
     QTreeWidgetItem *fontRow = rowOf(browser, fontItem);
     QTreeWidgetItem *groupRow = rowOf(browser, browser->topLevelItem(group));
 
-    QCOMPARE(textRow->text(1), QStringLiteral("Hi"));
-    QCOMPARE(rowValue(browser, check), QStringLiteral("True"));
-    QVERIFY(!rowOf(browser, browser->topLevelItem(check))->icon(1).isNull());
     text->setValue(QStringLiteral("Changed"));
     text->setPropertyName(QStringLiteral("caption"));
     text->setToolTip(QStringLiteral("The caption"));
@@ -246,7 +228,6 @@ void TestTreePropertyBrowser::rowDisplay()
     QCOMPARE(textRow->toolTip(0), QStringLiteral("The caption"));
 
     // Modified: a bold name, that only changes the weight of the browser's font.
-    QVERIFY(!textRow->font(0).bold());
     text->setModified(true);
     QVERIFY(textRow->font(0).bold());
     QCOMPARE(textRow->font(0).resolve(), uint(QFont::WeightResolved));
@@ -384,8 +365,6 @@ void TestTreePropertyBrowser::keyboardAndCurrentItem()
     QVERIFY(!now || browser->items(now->property()).contains(now));
     QVERIFY(!current.isEmpty());
     QCOMPARE(current.constLast().at(0).value<QtBrowserItem *>(), now);
-    browser->editItem(browser->topLevelItem(text));
-    QVERIFY(qobject_cast<QLineEdit *>(currentEditor(browser)));
 }
 
 void TestTreePropertyBrowser::choicesAndDialogs()
@@ -393,24 +372,19 @@ void TestTreePropertyBrowser::choicesAndDialogs()
     Pane pane;
     QtTreePropertyBrowser *browser = pane.browser.get();
     QtVariantProperty *number = pane.add(QMetaType::Int, "number", 5);
-    number->setAttribute(QStringLiteral("singleStep"), 5);
     QtVariantProperty *choice = pane.add(QtVariantPropertyManager::enumTypeId(), "choice");
     choice->setAttribute(QStringLiteral("enumNames"), QStringList({"Red", "Green", "Blue"}));
     QtVariantProperty *font = pane.add(QMetaType::QFont, "font");
     QtVariantProperty *shortcut = pane.add(QMetaType::QKeySequence, "shortcut");
-    QtVariantProperty *size = pane.add(QMetaType::QSize, "size");
     QtVariantProperty *color = pane.add(QMetaType::QColor, "color", QColor(Qt::red));
     pane.show();
 
     // Attributes reach an open editor.
     auto *spin = qobject_cast<QSpinBox *>(openEditor(browser, browser->topLevelItem(number)));
     QVERIFY(spin);
-    QTRY_VERIFY(spin->hasFocus());
-    QTest::keyClick(spin, Qt::Key_Up);
-    QCOMPARE(number->value().toInt(), 10);
-    number->setAttribute(QStringLiteral("maximum"), 8);
-    QCOMPARE(spin->maximum(), 8);
-    QCOMPARE(spin->value(), 8);
+    number->setAttribute(QStringLiteral("maximum"), 4);
+    QCOMPARE(spin->maximum(), 4);
+    QCOMPARE(spin->value(), 4);
 
     auto *combo = qobject_cast<QComboBox *>(openEditor(browser, browser->topLevelItem(choice)));
     QVERIFY(combo);
@@ -430,11 +404,6 @@ void TestTreePropertyBrowser::choicesAndDialogs()
     QVERIFY(pointSize);
     retype(pointSize, QStringLiteral("21"));
     QVERIFY(rowValue(browser, font).endsWith(QStringLiteral(", 21]")));
-
-    // A compound value is edited through its sub-properties only.
-    QVERIFY(!openEditor(browser, browser->topLevelItem(size)));
-    QVERIFY(qobject_cast<QSpinBox *>(
-            openEditor(browser, browser->topLevelItem(size)->children().at(0))));
 
     auto *keys =
             qobject_cast<QKeySequenceEdit *>(openEditor(browser, browser->topLevelItem(shortcut)));
