@@ -93,11 +93,8 @@ void TestDesignerPropertyComponents::initTestCase()
 {
     CcTest::usePluginModulesOnly({});
     m_core = CcTest::designerCore();
-    m_form = CcTest::createFormWindow(CcTest::formXml(
-            QStringLiteral("  <widget class=\"QLabel\" name=\"label\">\n"
-                           "   <property name=\"text\"><string>Label</string></property>\n"
-                           "  </widget>\n")));
-    QVERIFY(m_form);
+    m_form = CcTest::createFormWindow(
+            CcTest::formXml(QStringLiteral("<widget class=\"QLabel\" name=\"label\"/>")));
     m_label = m_form->mainContainer()->findChild<QWidget *>(QStringLiteral("label"));
     QVERIFY(m_label);
     QVERIFY(!m_pictures.red.isEmpty() && !m_pictures.blue.isEmpty());
@@ -299,7 +296,6 @@ void TestDesignerPropertyComponents::coexistsWithDesignersOwnPropertyEditor()
                 continue;
             ++theirs;
             // Same name, another class: no cast crosses over, in either direction.
-            QVERIFY(object->metaObject() != our->metaObject());
             QVERIFY(!object->metaObject()->cast(const_cast<QObject *>(our)));
             for (const QMetaObject *ourClass : ourClasses)
                 QVERIFY2(!ourClass->cast(object), ourClass->className());
