@@ -11,7 +11,6 @@
 #include <QDesignerFormWindowInterface>
 #include <QDesignerPropertyEditorInterface>
 #include <QFileInfo>
-#include <QHeaderView>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
@@ -137,9 +136,7 @@ void TestPropertyBrowserInDesigner::bothBrowsersWork()
 
     QTreeWidget *tree = browser.findChild<QTreeWidget *>();
     QCOMPARE(tree->topLevelItem(1)->childCount(), 7);
-    const QRect rect = tree->visualItemRect(tree->topLevelItem(0));
-    QTest::mouseClick(tree->viewport(), Qt::LeftButton, {},
-                      QPoint(tree->header()->sectionViewportPosition(1) + 10, rect.center().y()));
+    browser.editItem(browser.topLevelItem(text));
     auto *lineEdit = qobject_cast<QLineEdit *>(tree->indexWidget(tree->currentIndex()));
     QVERIFY(lineEdit);
     QTRY_VERIFY(lineEdit->hasFocus());
