@@ -157,6 +157,7 @@ void TestTreePropertyBrowser::rowsFollowProperties()
     QVERIFY(!browser->addProperty(b)); // once only
     QtBrowserItem *itemA = browser->insertProperty(a, nullptr);
     QtBrowserItem *itemC = browser->insertProperty(c, b);
+    // Only after a property the browser shows.
     QtVariantProperty *notShown = pane.manager->addProperty(QMetaType::Int);
     QVERIFY(!browser->insertProperty(pane.manager->addProperty(QMetaType::Int), notShown));
     QCOMPARE(browser->topLevelItems(),
