@@ -1,5 +1,7 @@
 #include "nui/CommonControls/CcColorPicker.hpp"
 
+#include "cclazyicon.h"
+
 #include <QPainter>
 #include <QPixmap>
 
@@ -8,12 +10,15 @@ namespace VoCc {
 namespace {
 QIcon swatchIcon(const QColor &color)
 {
-    QPixmap pixmap(16, 16);
-    pixmap.fill(color);
-    QPainter painter(&pixmap);
-    painter.setPen(Qt::darkGray);
-    painter.drawRect(0, 0, 15, 15);
-    return QIcon(pixmap);
+    // Drawn when the list first shows it.
+    return lazyPixmapIcon([color] {
+        QPixmap pixmap(16, 16);
+        pixmap.fill(color);
+        QPainter painter(&pixmap);
+        painter.setPen(Qt::darkGray);
+        painter.drawRect(0, 0, 15, 15);
+        return pixmap;
+    });
 }
 } // namespace
 
