@@ -9,10 +9,11 @@ RealNumberEdit::RealNumberEdit(QWidget *parent)
     : QLineEdit(parent), m_validator(new QDoubleValidator(-1e12, 1e12, 3, this))
 {
     m_validator->setNotation(QDoubleValidator::StandardNotation);
-    setValidator(m_validator);
     setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    connect(this, &QLineEdit::editingFinished, this, &RealNumberEdit::takeEditedText);
+    // The first text is the value's own; checking it against the validator would only cost.
     showValue();
+    setValidator(m_validator);
+    connect(this, &QLineEdit::editingFinished, this, &RealNumberEdit::takeEditedText);
 }
 
 double RealNumberEdit::value() const { return m_value; }
