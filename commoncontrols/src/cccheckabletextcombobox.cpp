@@ -14,15 +14,22 @@
 namespace VoCc {
 
 CheckableTextComboBox::CheckableTextComboBox(QWidget *parent)
-    : QWidget(parent), m_comboBox(new QComboBox(this)), m_model(new QStandardItemModel(this))
+    : QWidget(parent), m_comboBox(new QComboBox(this))
 {
+    // The entries live in the combo box's own item model; a model of ours in its place would
+    // only cost the swap. Should the combo box ever start with another kind, ours goes in.
+    m_model = qobject_cast<QStandardItemModel *>(m_comboBox->model());
+    if (!m_model) {
+        m_model = new QStandardItemModel(this);
+        m_comboBox->setModel(m_model);
+    }
+
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_comboBox);
     setFocusProxy(m_comboBox);
     setSizePolicy(m_comboBox->sizePolicy());
 
-    m_comboBox->setModel(m_model);
     // A read-only line edit shows the summary of the checked texts instead of one entry.
     m_comboBox->setEditable(true);
     m_comboBox->lineEdit()->setReadOnly(true);

@@ -10,9 +10,13 @@ LineEditEx::LineEditEx(QWidget *parent) : QLineEdit(parent)
 {
     // A clear button of its own rather than QLineEdit's: that one fades in and out with an
     // animation that outlives a line edit deleted while it runs.
-    m_clearAction = addAction(style()->standardIcon(QStyle::SP_LineEditClearButton),
-                              QLineEdit::TrailingPosition);
+    // It starts hidden, as the line edit starts empty: hiding it once it is in place would
+    // lay out the line edit's side buttons again for nothing.
+    m_clearAction =
+            new QAction(style()->standardIcon(QStyle::SP_LineEditClearButton), QString(), this);
+    m_clearAction->setVisible(false);
     m_clearAction->setToolTip(tr("Clear"));
+    addAction(m_clearAction, QLineEdit::TrailingPosition);
     connect(m_clearAction, &QAction::triggered, this, &QLineEdit::clear);
     connect(this, &QLineEdit::textChanged, this, &LineEditEx::updateClearAction);
     updateClearAction();
