@@ -104,8 +104,11 @@ void TestCcDesignerRoundTrip::exampleFormSurvivesDesigner()
     QDesignerFormWindowInterface *first = CcTest::createFormWindow(QString::fromUtf8(original));
     QCOMPARE(entriesOf(first->mainContainer()), expected);
     const QString saved = first->contents();
-    // Designer wrote the combo box items once, the library added their actions.
+    // Designer wrote the combo box items and the matrix dimensions once, the library added
+    // the actions without doubling them.
     QCOMPARE(saved.count(QStringLiteral("<string notr=\"true\">fileOpen</string>")), 1);
+    const QString row = QStringLiteral("<property name=\"row\">");
+    QCOMPARE(saved.count(row), QString::fromUtf8(original).count(row));
 
     // Reopened in Designer and at run time, the saved form holds the same entries.
     QDesignerFormWindowInterface *second = CcTest::createFormWindow(saved);
