@@ -1,0 +1,364 @@
+#include "designertestcore.h"
+
+#include <nui/CommonControls/CcDrawbackBoxGroup.hpp>
+#include <nui/CommonControls/CcMatrixButtons.hpp>
+#include <nui/CommonControls/template/CcOptionButtons.hpp>
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QDesignerContainerExtension>
+#include <QDesignerExtraInfoExtension>
+#include <QDesignerFormEditorInterface>
+#include <QDesignerFormWindowCursorInterface>
+#include <QDesignerFormWindowInterface>
+#include <QDesignerFormWindowManagerInterface>
+#include <QDesignerPropertyEditorInterface>
+#include <QDesignerPropertySheetExtension>
+#include <QDesignerTaskMenuExtension>
+#include <QExtensionFactory>
+#include <QExtensionManager>
+#include <QLayout>
+#include <QUndoStack>
+#include <QtCore/private/qobject_p.h>
+#include <QtDesigner/private/qdesigner_command_p.h>
+#include <QtDesigner/private/qtresourcemodel_p.h>
+#include <QtDesigner/private/shared_enums_p.h>
+#include <QtTest>
+#include <QtUiPlugin/QDesignerCustomWidgetInterface>
+
+using namespace qdesigner_internal;
+
+namespace {
+
+// Counts the slot calls that reach one object, through Qt's signal-spy hooks: the repaints
+// a plug-in asks for are merged by Qt, so only its slot runs can be counted.
+QObject *countedObject = nullptr;
+int slotCalls = 0;
+void countSlot(QObject *caller, int, void **)
+{
+    if (caller == countedObject)
+        ++slotCalls;
+}
+
+class PaintCounter : public QObject
+{
+public:
+    int paints = 0;
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        paints += event->type() == QEvent::Paint;
+        return false;
+    }
+};
+
+QObject *pluginObject(const char *pluginClass)
+{
+    const QObjectList plugins = CcTest::designerCore()->pluginInstances().constFirst()->children();
+    for (QObject *plugin : plugins) {
+        if (qstrcmp(plugin->metaObject()->className(), pluginClass) == 0)
+            return plugin;
+    }
+    return nullptr;
+}
+
+QString widgetXml(const char *className, const char *name, const QString &inner = QString())
+{
+    return QStringLiteral("<widget class=\"%1\" name=\"%2\">%3</widget>\n")
+            .arg(QLatin1String(className), QLatin1String(name), inner);
+}
+
+QWidget *formChild(QDesignerFormWindowInterface *form, const char *name)
+{
+    return form->mainContainer()->findChild<QWidget *>(QLatin1String(name));
+}
+
+// A form holding a page group with the given pages, declared as Designer's widget box does.
+QString groupForm(const QString &pages)
+{
+    return CcTest::formXml(widgetXml("VoCc::DrawbackBoxGroup", "group", pages),
+                           QStringLiteral("<customwidget><class>VoCc::DrawbackBoxGroup</class>"
+                                          "<extends>QWidget</extends>"
+                                          "<addpagemethod>addPage</addpagemethod></customwidget>"));
+}
+
+QStringList debugLines;
+
+void collectDebug(QtMsgType type, const QMessageLogContext &, const QString &message)
+{
+    if (type == QtDebugMsg)
+        debugLines << message;
+}
+
+QWidgetList pagesOf(const VoCc::DrawbackBoxGroup *group)
+{
+    QWidgetList pages;
+    for (int i = 0; i < group->count(); ++i)
+        pages << group->widget(i);
+    return pages;
+}
+
+// Entries in two list-like widgets, next to a plain Qt button, a layout and an action.
+const QString formWithEntries = CcTest::formXml(QStringLiteral(
+        "<action name=\"openAction\"/>"
+        "<widget class=\"QWidget\" name=\"holder\"><layout class=\"QVBoxLayout\" name=\"column\">"
+        " <item><widget class=\"VoCc::OptionButtons\" name=\"options\">"
+        "  <item><property name=\"text\"><string>Left</string></property>"
+        "   <property name=\"data\"><string notr=\"true\">L</string></property></item>"
+        "  <item><property name=\"text\"><string>Right</string></property>"
+        "   <property name=\"toolTip\"><string>To the right</string></property>"
+        "   <property name=\"data\"><string notr=\"true\">R</string></property></item>"
+        " </widget></item>"
+        " <item><widget class=\"QPushButton\" name=\"button\"/></item>"
+        "</layout></widget>"
+        "<widget class=\"VoCc::MatrixPushButtons\" name=\"matrix\">"
+        " <property name=\"column\"><number>3</number></property>"
+        " <item><property name=\"text\"><string>a</string></property>"
+        "  <property name=\"action\"><string notr=\"true\">doA</string></property></item>"
+        "</widget>"));
+
+} // namespace
+
+// The plug-ins at work on real Designer forms: their slots, driven by the Designer signals
+// they listen to; the page group as a multi-page container, driven by Designer's own page
+// commands; and every widget's extra data going through the library's form builder.
+class TestPluginOnForms : public QObject
+{
+    Q_OBJECT
+private slots:
+    void initTestCase() { CcTest::usePluginModulesOnly({QStringLiteral(CC_PLUGIN_MODULE)}); }
+
+    void propertyEditsRepaintOncePerCreatedWidget()
+    {
+        QDesignerPropertyEditorInterface *editor = CcTest::designerCore()->propertyEditor();
+        QObject *plugin = pluginObject("ListViewPlugin");
+        QVERIFY(plugin);
+        countedObject = plugin;
+        QSignalSpyCallbackSet hooks = {nullptr, countSlot, nullptr, nullptr};
+        qt_register_signal_spy_callbacks(&hooks);
+        auto slotRunsPerEdit = [editor] {
+            slotCalls = 0;
+            emit editor->propertyChanged(QStringLiteral("toolTip"), QStringLiteral("tip"));
+            return slotCalls;
+        };
+        const int before = slotRunsPerEdit();
+        // Three list views more: three more runs of the slot for one edit.
+        QDesignerFormWindowInterface *form = CcTest::createFormWindow(
+                CcTest::formXml(widgetXml("VoCc::ListView", "a") + widgetXml("VoCc::ListView", "b")
+                                + widgetXml("VoCc::ListView", "c")));
+        editor->setObject(formChild(form, "a"));
+        QCOMPARE(slotRunsPerEdit(), before + 3);
+        qt_register_signal_spy_callbacks(nullptr);
+
+        // Each run repaints the edited list view. A form window is never shown here, so a
+        // shown list view stands in for the edited one.
+        QScopedPointer<QWidget> shown(
+                qobject_cast<QDesignerCustomWidgetInterface *>(plugin)->createWidget(nullptr));
+        shown->show();
+        QVERIFY(QTest::qWaitForWindowExposed(shown.data()));
+        editor->setObject(shown.data());
+        QTest::qWait(100);
+        PaintCounter paints;
+        shown->installEventFilter(&paints);
+        emit editor->propertyChanged(QStringLiteral("toolTip"), QStringLiteral("other"));
+        QTRY_VERIFY(paints.paints > 0);
+        editor->setObject(nullptr);
+        CcTest::closeFormWindow(form);
+    }
+
+    void resourceSetActivationRefreshesPushButtonMatrices()
+    {
+        // A push-button matrix at the top and one nested in a group box, next to the other
+        // two kinds of matrix.
+        QDesignerFormWindowInterface *form = CcTest::createFormWindow(CcTest::formXml(
+                widgetXml("VoCc::MatrixPushButtons", "outer")
+                + widgetXml("QGroupBox", "box", widgetXml("VoCc::MatrixPushButtons", "inner"))
+                + widgetXml("VoCc::MatrixCheckBoxes", "checks")
+                + widgetXml("VoCc::MatrixRadioButtons", "radios")));
+        const char *names[] = {"outer", "inner", "checks", "radios"};
+        QList<QAbstractButton *> firstButtons;
+        for (const char *name : names) {
+            auto *matrix = qobject_cast<VoCc::AbstractMatrixOptions *>(formChild(form, name));
+            QVERIFY2(matrix, name);
+            matrix->setTextList({QStringLiteral("one")});
+            // A stale button text shows whether the list was applied again.
+            matrix->button(0)->setText(QStringLiteral("stale"));
+            firstButtons << matrix->button(0);
+        }
+        QtResourceModel *model = CcTest::designerCore()->resourceModel();
+        model->setCurrentResourceSet(model->addResourceSet(QStringList()));
+        QCOMPARE(firstButtons.at(0)->text(), QStringLiteral("one"));
+        QCOMPARE(firstButtons.at(1)->text(), QStringLiteral("one"));
+        QCOMPARE(firstButtons.at(2)->text(), QStringLiteral("stale"));
+        QCOMPARE(firstButtons.at(3)->text(), QStringLiteral("stale"));
+
+        // No active form: nothing to walk.
+        CcTest::designerCore()->formWindowManager()->setActiveFormWindow(nullptr);
+        firstButtons.at(0)->setText(QStringLiteral("stale"));
+        model->setCurrentResourceSet(model->addResourceSet(QStringList()));
+        QCOMPARE(firstButtons.at(0)->text(), QStringLiteral("stale"));
+        CcTest::closeFormWindow(form);
+    }
+
+    void pageGroupFollowsPageSwitchesAndTitles()
+    {
+        QDesignerFormWindowInterface *form = CcTest::createFormWindow(
+                groupForm(widgetXml("QWidget", "p0") + widgetXml("QWidget", "p1")));
+        auto *group = qobject_cast<VoCc::DrawbackBoxGroup *>(formChild(form, "group"));
+        QVERIFY(group);
+        QCOMPARE(group->count(), 2);
+        // Pages loaded through addPage are not managed yet; Designer selects managed widgets
+        // only.
+        form->manageWidget(group->widget(0));
+        form->manageWidget(group->widget(1));
+        QVERIFY(!form->cursor()->isWidgetSelected(group->widget(1)));
+        group->setCurrentIndex(1);
+        QVERIFY(form->cursor()->isWidgetSelected(group->widget(1)));
+        QVERIFY(!form->cursor()->isWidgetSelected(group->widget(0)));
+
+        // A title edit marks the current page's title as changed, so that it is saved.
+        auto titleChanged = [form](QWidget *page) {
+            auto *sheet = qt_extension<QDesignerPropertySheetExtension *>(
+                    form->core()->extensionManager(), page);
+            return sheet->isChanged(sheet->indexOf(QStringLiteral("windowTitle")));
+        };
+        QVERIFY(!titleChanged(group->widget(1)));
+        group->setPageTitle(QStringLiteral("Renamed"));
+        QVERIFY(titleChanged(group->widget(1)));
+        QVERIFY(!titleChanged(group->widget(0)));
+        QVERIFY(form->contents().contains(QLatin1String("<string>Renamed</string>")));
+        CcTest::closeFormWindow(form);
+
+        // Outside any form (a preview) a page switch or a title edit selects nothing.
+        QWidget holder;
+        auto *preview = static_cast<VoCc::DrawbackBoxGroup *>(
+                qobject_cast<QDesignerCustomWidgetInterface *>(
+                        pluginObject("DrawbackBoxGroupPlugin"))
+                        ->createWidget(&holder));
+        preview->addPage(new QWidget);
+        preview->addPage(new QWidget);
+        preview->setCurrentIndex(1);
+        preview->setPageTitle(QStringLiteral("x"));
+        QCOMPARE(preview->currentIndex(), 1);
+    }
+    void containerExtensionEditsPagesOnAForm()
+    {
+        QDesignerFormWindowInterface *form =
+                CcTest::createFormWindow(groupForm(widgetXml("QWidget", "page")));
+        auto *group =
+                form->mainContainer()->findChild<VoCc::DrawbackBoxGroup *>(QStringLiteral("group"));
+        QVERIFY(group);
+        auto *container = qt_extension<QDesignerContainerExtension *>(
+                form->core()->extensionManager(), group);
+        QVERIFY(container);
+        QCOMPARE(container->count(), 1);
+        // Its factory serves page groups only, under the Qt 5 identifier only.
+        auto *factory =
+                qobject_cast<QExtensionFactory *>(dynamic_cast<QObject *>(container)->parent());
+        QVERIFY(factory && factory->inherits("DrawbackBoxGroupExtensionFactory"));
+        QWidget plain;
+        QVERIFY(!factory->extension(&plain, QString(Q_TYPEID(QDesignerContainerExtension))));
+        QVERIFY(!factory->extension(group, QString(Q_TYPEID(QDesignerTaskMenuExtension))));
+        QVERIFY(!factory->extension(group, QStringLiteral("com.trolltech.Qt.Designer.Container")));
+        QCOMPARE(container->widget(0)->objectName(), QStringLiteral("page"));
+
+        // Designer's "Insert Page" and "Delete Page" commands, undone and redone.
+        QUndoStack *history = form->commandHistory();
+        for (int i = 0; i < 2; ++i) {
+            auto *add = new AddContainerWidgetPageCommand(form);
+            add->init(group, PageContainer, AddContainerWidgetPageCommand::InsertAfter);
+            history->push(add);
+        }
+        QCOMPARE(container->count(), 3);
+        const QWidgetList pages = pagesOf(group);
+        history->undo();
+        QCOMPARE(group->count(), 2);
+        history->redo();
+        QCOMPARE(pagesOf(group), pages);
+        auto *remove = new DeleteContainerWidgetPageCommand(form);
+        remove->init(group, PageContainer);
+        history->push(remove);
+        QCOMPARE(group->count(), 2);
+        history->undo();
+        QCOMPARE(pagesOf(group), pages);
+
+        // Every switch is traced, also one to the page already current.
+        debugLines.clear();
+        QtMessageHandler previous = qInstallMessageHandler(collectDebug);
+        auto *change = new ChangeCurrentPageCommand(form);
+        change->init(group, 2);
+        history->push(change);
+        container->setCurrentIndex(2);
+        qInstallMessageHandler(previous);
+        QCOMPARE(container->currentIndex(), 2);
+        QCOMPARE(debugLines.count(QStringLiteral(
+                         "DrawbackBoxGroupContainerExtension::currentIndexChanged 2")),
+                 2);
+
+        // The extension's own operations go straight to the group.
+        auto *inserted = new QWidget;
+        container->insertWidget(0, inserted);
+        QCOMPARE(group->widget(0), inserted);
+        auto *appended = new QWidget;
+        container->addWidget(appended);
+        QCOMPARE(group->widget(4), appended);
+        container->remove(0);
+        QCOMPARE(pagesOf(group), pages + QWidgetList({appended}));
+        delete inserted;
+
+        // The saved form holds the pages Designer made.
+        QCOMPARE(form->contents().count(QLatin1String("<widget class=\"QWidget\" name=\"page")), 3);
+        CcTest::closeFormWindow(form);
+    }
+    void extraInfoThroughTheFormBuilder()
+    {
+        QDesignerFormEditorInterface *core = CcTest::designerCore();
+        QDesignerFormWindowInterface *form = CcTest::createFormWindow(formWithEntries);
+        QWidget *main = form->mainContainer();
+        QList<QWidget *> widgets = main->findChildren<QWidget *>();
+        widgets.prepend(main);
+        int served = 0;
+        for (QWidget *widget : widgets) {
+            if (!form->isManaged(widget))
+                continue;
+            auto *extension =
+                    qt_extension<QDesignerExtraInfoExtension *>(core->extensionManager(), widget);
+            QVERIFY2(extension, qPrintable(widget->objectName()));
+            QCOMPARE(extension->widget(), widget);
+            QCOMPARE(extension->core(), core);
+            ++served;
+        }
+        QCOMPARE(served, 5); // Form, holder, options, button, matrix
+
+        // An action and a layout are not widgets.
+        QVERIFY(!qt_extension<QDesignerExtraInfoExtension *>(
+                core->extensionManager(),
+                main->findChild<QAction *>(QStringLiteral("openAction"))));
+        QVERIFY(!qt_extension<QDesignerExtraInfoExtension *>(
+                core->extensionManager(), main->findChild<QLayout *>(QStringLiteral("column"))));
+
+        // Loading went through the form builder: Designer itself ignores these items.
+        auto *options = main->findChild<VoCc::OptionButtons *>(QStringLiteral("options"));
+        QVERIFY(options);
+        QCOMPARE(options->dataList(), QStringList({"L", "R"}));
+        QCOMPARE(options->toolTips().value(1), QStringLiteral("To the right"));
+        auto *matrix = main->findChild<VoCc::AbstractMatrixOptions *>(QStringLiteral("matrix"));
+        QVERIFY(matrix);
+        QCOMPARE(matrix->actionList().value(0), QStringLiteral("doA"));
+
+        // Saving went through it too, and contents() -> setContents() -> contents() gives the
+        // same text, with nothing doubled.
+        const QString first = form->contents();
+        QVERIFY2(first.contains(QLatin1String("<string notr=\"true\">R</string>")),
+                 qPrintable(first));
+        QVERIFY(first.contains(QLatin1String("<string notr=\"true\">doA</string>")));
+        QDesignerFormWindowInterface *second = CcTest::createFormWindow(first);
+        QCOMPARE(second->contents(), first);
+        QVERIFY(second->setContents(second->contents()));
+        QCOMPARE(second->contents(), first);
+        CcTest::closeFormWindow(second);
+        CcTest::closeFormWindow(form);
+    }
+};
+
+QTEST_MAIN(TestPluginOnForms)
+#include "tst_pluginonforms.moc"
