@@ -186,10 +186,10 @@ private slots:
         }
         QtResourceModel *model = CcTest::designerCore()->resourceModel();
         model->setCurrentResourceSet(model->addResourceSet(QStringList()));
-        QCOMPARE(firstButtons.at(0)->text(), QStringLiteral("one"));
-        QCOMPARE(firstButtons.at(1)->text(), QStringLiteral("one"));
-        QCOMPARE(firstButtons.at(2)->text(), QStringLiteral("stale"));
-        QCOMPARE(firstButtons.at(3)->text(), QStringLiteral("stale"));
+        QStringList texts;
+        for (const QAbstractButton *button : firstButtons)
+            texts << button->text();
+        QCOMPARE(texts, QStringList({"one", "one", "stale", "stale"}));
 
         // No active form: nothing to walk.
         CcTest::designerCore()->formWindowManager()->setActiveFormWindow(nullptr);
@@ -240,12 +240,12 @@ private slots:
         preview->setPageTitle(QStringLiteral("x"));
         QCOMPARE(preview->currentIndex(), 1);
     }
+
     void containerExtensionEditsPagesOnAForm()
     {
         QDesignerFormWindowInterface *form =
                 CcTest::createFormWindow(groupForm(widgetXml("QWidget", "page")));
-        auto *group =
-                form->mainContainer()->findChild<VoCc::DrawbackBoxGroup *>(QStringLiteral("group"));
+        auto *group = qobject_cast<VoCc::DrawbackBoxGroup *>(formChild(form, "group"));
         QVERIFY(group);
         auto *container = qt_extension<QDesignerContainerExtension *>(
                 form->core()->extensionManager(), group);
