@@ -103,12 +103,13 @@ T *openEditor(QtTreePropertyBrowser *browser, QtProperty *property)
     return editors.isEmpty() ? nullptr : editors.first();
 }
 
-// Runs act on the next modal dialog of type T as soon as it is shown; act accepts or rejects
-// it. Should the dialog still be up a while later (a file dialog may still be loading its
-// folder and ignore the first answer), act runs again. Returns a flag that tells whether act
-// ran at all.
+// Opens a modal dialog of type T through open(), runs act on it as soon as it is shown and
+// accepts or rejects it. Should the dialog still be up a while later (a file dialog may still
+// be loading its folder and ignore the first answer), it is answered again. Tells whether the
+// dialog was seen.
 template<class T>
-std::shared_ptr<bool> whenModal(std::function<void(T *)> act)
+bool answerModal(const std::function<void()> &open, const std::function<void(T *)> &act,
+                 bool accept = true)
 {
     auto done = std::make_shared<bool>(false);
     auto *timer = new QTimer(qApp); // gone with the application at the latest
@@ -116,7 +117,7 @@ std::shared_ptr<bool> whenModal(std::function<void(T *)> act)
     auto sinceAct = std::make_shared<QElapsedTimer>();
     auto answered = std::make_shared<QPointer<T>>();
     clock->start();
-    QObject::connect(timer, &QTimer::timeout, [timer, act, done, clock, sinceAct, answered] {
+    QObject::connect(timer, &QTimer::timeout, [=] {
         T *dialog = qobject_cast<T *>(QApplication::activeModalWidget());
         const bool again = *done && dialog && dialog == answered->data();
         if (dialog && (!*done || (again && sinceAct->elapsed() > 300))) {
@@ -124,25 +125,13 @@ std::shared_ptr<bool> whenModal(std::function<void(T *)> act)
             *answered = dialog;
             sinceAct->start();
             act(dialog);
+            QMetaObject::invokeMethod(dialog, accept ? "accept" : "reject");
         } else if ((*done && !again) || clock->elapsed() > 20000) {
             timer->stop();
             timer->deleteLater();
         }
     });
     timer->start(20);
-    return done;
-}
-
-// Opens a modal dialog of type T through open(), runs act on it and accepts or rejects it.
-// Tells whether the dialog was seen.
-template<class T>
-bool answerModal(const std::function<void()> &open, const std::function<void(T *)> &act,
-                 bool accept = true)
-{
-    auto done = whenModal<T>([act, accept](T *dialog) {
-        act(dialog);
-        QMetaObject::invokeMethod(dialog, accept ? "accept" : "reject");
-    });
     open();
     return *done;
 }

@@ -180,26 +180,22 @@ void TestItemListEditor::propertyTableBecomesProperties()
     ItemListEditor *editor = makeEditor({"One"});
     const QList<QtVariantProperty *> properties = editor->properties();
     const QList<QtBrowserItem *> shown = editor->propertyBrowser()->topLevelItems();
-    const std::pair<const char *, int> expected[] = {// name, validation mode or -1
-                                                     {"text", ValidationMultiLine},
-                                                     {"icon", -1},
-                                                     {"toolTip", ValidationRichText},
-                                                     {"statusTip", ValidationSingleLine},
-                                                     {"whatsThis", ValidationRichText},
-                                                     {"font", -1},
-                                                     {"checkState", -1},
-                                                     {"flags", -1}};
-    QCOMPARE(properties.size(), 8);
-    QCOMPARE(shown.size(), 8);
-    for (int i = 0; i < 8; ++i) {
-        QtVariantProperty *property = properties.at(i);
-        QCOMPARE(property->propertyName(), QLatin1String(expected[i].first));
-        QCOMPARE(shown.at(i)->property(), static_cast<QtProperty *>(property));
+    QCOMPARE(shown.size(), properties.size());
+    QStringList names;
+    for (QtVariantProperty *property : properties) {
+        QCOMPARE(shown.at(names.size())->property(), static_cast<QtProperty *>(property));
         QCOMPARE(property->attributeValue(QStringLiteral("resettable")), QVariant(true));
-        if (expected[i].second >= 0)
-            QCOMPARE(property->attributeValue(QStringLiteral("validationMode")).toInt(),
-                     expected[i].second);
+        names.append(property->propertyName());
     }
+    QCOMPARE(names,
+             QStringList({"text", "icon", "toolTip", "statusTip", "whatsThis", "font", "checkState",
+                          "flags"}));
+    const std::pair<const char *, int> modes[] = {{"text", ValidationMultiLine},
+                                                  {"toolTip", ValidationRichText},
+                                                  {"statusTip", ValidationSingleLine},
+                                                  {"whatsThis", ValidationRichText}};
+    for (const auto &mode : modes)
+        QCOMPARE(itemProperty(mode.first)->attributeValue("validationMode").toInt(), mode.second);
     QCOMPARE(itemProperty("flags")->attributeValue(QStringLiteral("flagNames")),
              QVariant(QStringList({"Selectable", "Editable", "DragEnabled", "DropEnabled",
                                    "UserCheckable", "Enabled", "Tristate"})));
