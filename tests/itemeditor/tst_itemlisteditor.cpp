@@ -322,11 +322,7 @@ void TestItemListEditor::defaultsAndResetRemoveTheRole()
         QVariant defaultValue;
     } cases[] = {
             {"text", Qt::DisplayPropertyRole, Qt::EditRole, {}, {}},
-            {"toolTip",
-             Qt::ToolTipPropertyRole,
-             Qt::ToolTipRole,
-             CcTest::stringValue(QStringLiteral("tip")),
-             {}},
+            {"toolTip", Qt::ToolTipPropertyRole, Qt::ToolTipRole, CcTest::stringValue("tip"), {}},
             {"icon", Qt::DecorationPropertyRole, Qt::DecorationRole,
              CcTest::iconValue(m_pictures.red), QVariant::fromValue(PropertySheetIconValue())},
             {"flags", ItemFlagsRole, -1, 0, freshItemFlags()},
