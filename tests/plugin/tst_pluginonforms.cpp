@@ -18,6 +18,7 @@
 #include <QExtensionFactory>
 #include <QExtensionManager>
 #include <QLayout>
+#include <QScopeGuard>
 #include <QUndoStack>
 #include <QtCore/private/qobject_p.h>
 #include <QtDesigner/private/qdesigner_command_p.h>
@@ -133,8 +134,9 @@ private slots:
         QObject *plugin = pluginObject("ListViewPlugin");
         QVERIFY(plugin);
         countedObject = plugin;
-        QSignalSpyCallbackSet hooks = {nullptr, countSlot, nullptr, nullptr};
+        static QSignalSpyCallbackSet hooks = {nullptr, countSlot, nullptr, nullptr};
         qt_register_signal_spy_callbacks(&hooks);
+        const auto unhook = qScopeGuard([] { qt_register_signal_spy_callbacks(nullptr); });
         auto slotRunsPerEdit = [editor] {
             slotCalls = 0;
             emit editor->propertyChanged(QStringLiteral("toolTip"), QStringLiteral("tip"));
@@ -147,7 +149,6 @@ private slots:
                                 + widgetXml("VoCc::ListView", "c")));
         editor->setObject(formChild(form, "a"));
         QCOMPARE(slotRunsPerEdit(), before + 3);
-        qt_register_signal_spy_callbacks(nullptr);
 
         // Each run repaints the edited list view. A form window is never shown here, so a
         // shown list view stands in for the edited one.
