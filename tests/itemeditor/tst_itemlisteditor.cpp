@@ -289,12 +289,10 @@ void TestItemListEditor::editingValuesInThePaneSetsAndMirrorsRoles()
     for (const QtVariantProperty *edited : editor->properties())
         QVERIFY2(edited->isModified(), qPrintable(edited->propertyName()));
 
-    // Only the current row changed; selecting the other one shows its own values.
-    QListWidgetItem *first = editor->listWidget()->item(0);
-    QCOMPARE(first->text(), QStringLiteral("One"));
-    QVERIFY(!first->data(ItemFlagsRole).isValid());
+    // Only the current row changed: the pane shows the other one's own values.
     editor->listWidget()->setCurrentRow(0);
-    QVERIFY(!itemProperty("icon")->isModified());
+    for (const QtVariantProperty *untouched : editor->properties())
+        QCOMPARE(untouched->isModified(), untouched->propertyName() == QLatin1String("text"));
     QCOMPARE(itemProperty("checkState")->value().toInt(), 0);
     editor->listWidget()->setCurrentRow(1);
     QVERIFY(itemProperty("icon")->isModified());
@@ -423,7 +421,6 @@ void TestItemListEditor::listOperationsAndSelectionRules()
     clickNew(2);
     QCOMPARE(stringOf(list->item(2)->data(Qt::DisplayPropertyRole)),
              PropertySheetStringValue(QStringLiteral("New Item")));
-    QVERIFY(list->item(2)->flags() & Qt::ItemIsEditable);
     list->setCurrentRow(3);
     clickNew(4);
     list->setCurrentRow(-1);
