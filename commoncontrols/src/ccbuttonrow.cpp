@@ -52,4 +52,15 @@ QAbstractButton *ButtonRow::button(int index) const
     return index >= 0 && index < m_buttons.size() ? m_buttons.at(index) : nullptr;
 }
 
+Qt::Orientation ButtonRow::orientation() const
+{
+    return m_layout->direction() == QBoxLayout::LeftToRight ? Qt::Horizontal : Qt::Vertical;
+}
+
+void ButtonRow::setOrientation(Qt::Orientation orientation)
+{
+    m_layout->setDirection(orientation == Qt::Horizontal ? QBoxLayout::LeftToRight
+                                                         : QBoxLayout::TopToBottom);
+}
+
 } // namespace VoCc

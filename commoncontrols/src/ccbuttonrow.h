@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QList>
+#include <Qt>
 #include <functional>
 
 class QAbstractButton;
@@ -24,6 +25,9 @@ public:
     void check(int index);
     QAbstractButton *button(int index) const;
     QBoxLayout *layout() const { return m_layout; }
+    // The row runs left to right when horizontal, top to bottom when vertical.
+    Qt::Orientation orientation() const;
+    void setOrientation(Qt::Orientation orientation);
 
 private:
     AbstractOptions *m_owner;

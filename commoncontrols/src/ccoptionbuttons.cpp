@@ -21,15 +21,11 @@ OptionButtons::OptionButtons(QWidget *parent) : AbstractOptions(parent)
 
 OptionButtons::~OptionButtons() { delete m_row; }
 
-Qt::Orientation OptionButtons::orientation() const
-{
-    return m_row->layout()->direction() == QBoxLayout::LeftToRight ? Qt::Horizontal : Qt::Vertical;
-}
+Qt::Orientation OptionButtons::orientation() const { return m_row->orientation(); }
 
 void OptionButtons::setOrientation(Qt::Orientation orientation)
 {
-    m_row->layout()->setDirection(orientation == Qt::Horizontal ? QBoxLayout::LeftToRight
-                                                                : QBoxLayout::TopToBottom);
+    m_row->setOrientation(orientation);
 }
 
 QAbstractButton *OptionButtons::button(int index) const { return m_row->button(index); }

@@ -19,15 +19,11 @@ OptionRadios::OptionRadios(QWidget *parent) : AbstractOptions(parent)
 
 OptionRadios::~OptionRadios() { delete m_row; }
 
-Qt::Orientation OptionRadios::orientation() const
-{
-    return m_row->layout()->direction() == QBoxLayout::LeftToRight ? Qt::Horizontal : Qt::Vertical;
-}
+Qt::Orientation OptionRadios::orientation() const { return m_row->orientation(); }
 
 void OptionRadios::setOrientation(Qt::Orientation orientation)
 {
-    m_row->layout()->setDirection(orientation == Qt::Horizontal ? QBoxLayout::LeftToRight
-                                                                : QBoxLayout::TopToBottom);
+    m_row->setOrientation(orientation);
 }
 
 QAbstractButton *OptionRadios::button(int index) const { return m_row->button(index); }
