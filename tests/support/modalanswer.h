@@ -1,0 +1,69 @@
+#pragma once
+
+// Answering modal dialogs from a timer, as a user in front of them would, and letting queued
+// work happen. Shared by every suite that opens dialogs.
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QPointer>
+#include <QTimer>
+#include <functional>
+#include <memory>
+
+namespace CcTest {
+
+// Lets queued work and deferred deletions (closed editors) happen.
+inline void settle()
+{
+    QApplication::processEvents();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QApplication::processEvents();
+}
+
+// Opens a modal dialog of type T through open(), runs act on it as soon as it is shown and
+// accepts or rejects it. Should the dialog still be up a while later (a file dialog may still
+// be loading its folder and ignore the first answer), it is answered again. Tells whether the
+// dialog was seen; an open() that shows none returns false at once.
+template<class T>
+bool answerModal(const std::function<void()> &open, const std::function<void(T *)> &act,
+                 bool accept = true)
+{
+    auto done = std::make_shared<bool>(false);
+    QPointer<QTimer> timer = new QTimer(qApp); // gone with the application at the latest
+    auto clock = std::make_shared<QElapsedTimer>();
+    auto sinceAct = std::make_shared<QElapsedTimer>();
+    auto answered = std::make_shared<QPointer<T>>();
+    clock->start();
+    QObject::connect(timer, &QTimer::timeout, [=] {
+        T *dialog = qobject_cast<T *>(QApplication::activeModalWidget());
+        const bool again = *done && dialog && dialog == answered->data();
+        if (dialog && (!*done || (again && sinceAct->elapsed() > 300))) {
+            *done = true;
+            *answered = dialog;
+            sinceAct->start();
+            act(dialog);
+            QMetaObject::invokeMethod(dialog, accept ? "accept" : "reject");
+        } else if ((*done && !again) || clock->elapsed() > 20000) {
+            timer->stop();
+            timer->deleteLater();
+        }
+    });
+    timer->start(20);
+    open();
+    // Whatever open() did, its dialog is over: a later one is not this call's to answer.
+    delete timer.data();
+    return *done;
+}
+
+// Picks a file in a file dialog as a user typing its full path does.
+inline void typeFileName(QFileDialog *dialog, const QString &path)
+{
+    if (auto *edit = dialog->findChild<QLineEdit *>(QStringLiteral("fileNameEdit")))
+        edit->setText(path);
+    else
+        dialog->selectFile(path);
+}
+
+} // namespace CcTest
