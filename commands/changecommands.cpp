@@ -1,0 +1,162 @@
+#include "changecommands.h"
+
+#include <nui/CommonControls/CcCheckableTextComboBox.hpp>
+#include <nui/CommonControls/CcComboBox.hpp>
+#include <nui/CommonControls/CcDrawbackBoxGroup.hpp>
+#include <nui/CommonControls/template/CcOptionButtons.hpp>
+#include <nui/CommonControls/template/CcOptionComboBox.hpp>
+#include <nui/CommonControls/template/CcOptionRadios.hpp>
+
+#include <QtDesigner/private/formwindowbase_p.h>
+#include <QtDesigner/private/qdesigner_utils_p.h>
+
+#include <QCoreApplication>
+
+using qdesigner_internal::DesignerIconCache;
+using qdesigner_internal::FormWindowBase;
+using qdesigner_internal::PropertySheetIconValue;
+
+namespace {
+
+// Three commands carry no text on purpose: their steps show unlabelled in the undo history.
+QString commandText(const char *text)
+{
+    return text ? QCoreApplication::translate("Command", text) : QString();
+}
+
+DesignerIconCache *iconCacheOf(QDesignerFormWindowInterface *formWindow)
+{
+    auto *formBase = qobject_cast<FormWindowBase *>(formWindow);
+    return formBase ? formBase->iconCache() : nullptr;
+}
+
+// The option groups re-lay out their buttons through this method, called by name (the
+// library spells it so).
+void relayOut(QWidget *options) { QMetaObject::invokeMethod(options, "updateGeomtries"); }
+
+template<class Options>
+void applyOptions(Options *options, const ItemRecords &items)
+{
+    options->setTextList(recordStrings(items, ItemRoles::Text));
+    options->setIconList(recordIconPaths(items));
+    options->setToolTips(recordStrings(items, ItemRoles::ToolTip));
+    options->setDataList(recordStrings(items, ItemRoles::Data));
+    relayOut(options);
+}
+
+} // namespace
+
+template<class Widget, class Contents>
+ChangeContentsCommand<Widget, Contents>::ChangeContentsCommand(
+        const char *text, QDesignerFormWindowInterface *formWindow)
+    : QDesignerFormWindowCommand(commandText(text), formWindow),
+      m_iconCache(iconCacheOf(formWindow))
+{ }
+
+template class ChangeContentsCommand<VoCc::CheckableTextComboBox, ItemRecords>;
+template class ChangeContentsCommand<VoCc::ComboBox, ItemRecords>;
+template class ChangeContentsCommand<VoCc::OptionComboBox, ItemRecords>;
+template class ChangeContentsCommand<VoCc::OptionButtons, ItemRecords>;
+template class ChangeContentsCommand<VoCc::OptionRadios, ItemRecords>;
+template class ChangeContentsCommand<VoCc::DrawbackBoxGroup, PageGroupContents>;
+
+ChangeCheckComboCommand::ChangeCheckComboCommand(QDesignerFormWindowInterface *formWindow)
+    : ChangeContentsCommand(nullptr, formWindow)
+{ }
+
+void ChangeCheckComboCommand::applyItems(const ItemRecords &items)
+{
+    if (!m_widget)
+        return;
+    m_widget->setItemTextList(recordStrings(items, ItemRoles::Text));
+    m_widget->setToolTips(recordStrings(items, ItemRoles::ToolTip));
+}
+
+ChangeComboBoxCommand::ChangeComboBoxCommand(QDesignerFormWindowInterface *formWindow)
+    : ChangeContentsCommand(nullptr, formWindow)
+{ }
+
+void ChangeComboBoxCommand::applyItems(const ItemRecords &items)
+{
+    if (!m_widget)
+        return;
+    m_widget->clear();
+    QStringList actions;
+    actions.reserve(items.size());
+    for (const ItemRecord &item : items) {
+        const QVariant icon = item.value(ItemRoles::Icon);
+        m_widget->addItem(m_iconCache
+                                  ? m_iconCache->icon(qvariant_cast<PropertySheetIconValue>(icon))
+                                  : QIcon(),
+                          recordString(item, ItemRoles::Text), QVariant());
+        // Designer writes a combo box's items from these roles, and the editor reads them
+        // back from here.
+        const int index = m_widget->count() - 1;
+        m_widget->setItemData(index, item.value(ItemRoles::Text), ItemRoles::Text);
+        m_widget->setItemData(index, icon, ItemRoles::Icon);
+        actions.append(recordString(item, ItemRoles::Action));
+    }
+    m_widget->setActionList(actions);
+}
+
+ChangeOptionComboCommand::ChangeOptionComboCommand(QDesignerFormWindowInterface *formWindow)
+    : ChangeContentsCommand(nullptr, formWindow)
+{ }
+
+void ChangeOptionComboCommand::applyItems(const ItemRecords &items)
+{
+    if (!m_widget)
+        return;
+    m_widget->setTextList(recordStrings(items, ItemRoles::Text));
+    m_widget->setIconList(recordIconPaths(items));
+    m_widget->setDataList(recordStrings(items, ItemRoles::Data));
+}
+
+ChangeOptionButtonsCommand::ChangeOptionButtonsCommand(QDesignerFormWindowInterface *formWindow)
+    : ChangeContentsCommand(QT_TRANSLATE_NOOP("Command", "Change OptionButtons Contents"),
+                            formWindow)
+{ }
+
+void ChangeOptionButtonsCommand::applyItems(const ItemRecords &items)
+{
+    applyOptions(m_widget.data(), items);
+}
+
+ChangeOptionRadiosCommand::ChangeOptionRadiosCommand(QDesignerFormWindowInterface *formWindow)
+    : ChangeContentsCommand(QT_TRANSLATE_NOOP("Command", "Change OptionRadios Contents"),
+                            formWindow)
+{ }
+
+void ChangeOptionRadiosCommand::applyItems(const ItemRecords &items)
+{
+    applyOptions(m_widget.data(), items);
+}
+
+// The page group's steps are labelled like the option radios' ones; a known quirk kept as is.
+ChangeDrawbackBoxCommand::ChangeDrawbackBoxCommand(QDesignerFormWindowInterface *formWindow)
+    : ChangeContentsCommand(QT_TRANSLATE_NOOP("Command", "Change OptionRadios Contents"),
+                            formWindow)
+{ }
+
+void ChangeDrawbackBoxCommand::init(VoCc::DrawbackBoxGroup *group,
+                                    const PageGroupContents &oldContents,
+                                    const PageGroupContents &newContents,
+                                    const QList<int> &initialOrder, const QList<int> &finalOrder)
+{
+    ChangeContentsCommand::init(group, oldContents, newContents);
+    m_initialOrder = initialOrder;
+    m_finalOrder = finalOrder;
+}
+
+void ChangeDrawbackBoxCommand::applyItems(const PageGroupContents &contents)
+{
+    VoCc::DrawbackBoxGroup *group = m_widget.data();
+    group->replaceBoxes(contents.pages);
+    const QStringList titles = recordStrings(contents.items, ItemRoles::Text);
+    // Titles are set through the current page, so the group ends on its last page.
+    for (int i = 0; i < group->count(); ++i) {
+        group->setCurrentIndex(i);
+        group->setPageTitle(titles.value(i));
+    }
+    QMetaObject::invokeMethod(group, "repaint");
+}

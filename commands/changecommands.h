@@ -1,0 +1,117 @@
+#pragma once
+
+#include "itemrecord.h"
+#include "pagegroupcontents.h"
+
+#include <QtDesigner/private/qdesigner_formwindowcommand_p.h>
+
+#include <QPointer>
+
+namespace qdesigner_internal {
+class DesignerIconCache;
+}
+
+namespace VoCc {
+class CheckableTextComboBox;
+class ComboBox;
+class DrawbackBoxGroup;
+class OptionButtons;
+class OptionComboBox;
+class OptionRadios;
+} // namespace VoCc
+
+// An accepted item edit as an undoable step on the form's undo stack: the command keeps the
+// contents before and after the edit and writes one or the other into the widget. Pushing it
+// runs redo(). Texts are translated in the context "Command".
+template<class Widget, class Contents>
+class ChangeContentsCommand : public qdesigner_internal::QDesignerFormWindowCommand
+{
+public:
+    void init(Widget *widget, const Contents &oldContents, const Contents &newContents)
+    {
+        m_widget = widget;
+        m_oldContents = oldContents;
+        m_newContents = newContents;
+    }
+
+    void redo() override { applyItems(m_newContents); }
+    void undo() override { applyItems(m_oldContents); }
+
+protected:
+    ChangeContentsCommand(const char *text, QDesignerFormWindowInterface *formWindow);
+
+    virtual void applyItems(const Contents &contents) = 0;
+
+    QPointer<Widget> m_widget;
+    Contents m_oldContents;
+    Contents m_newContents;
+    // The form's icon cache; null when the form window is not one of Designer's own.
+    qdesigner_internal::DesignerIconCache *m_iconCache;
+};
+
+class ChangeCheckComboCommand
+    : public ChangeContentsCommand<VoCc::CheckableTextComboBox, ItemRecords>
+{
+public:
+    explicit ChangeCheckComboCommand(QDesignerFormWindowInterface *formWindow);
+
+protected:
+    void applyItems(const ItemRecords &items) override;
+};
+
+class ChangeComboBoxCommand : public ChangeContentsCommand<VoCc::ComboBox, ItemRecords>
+{
+public:
+    explicit ChangeComboBoxCommand(QDesignerFormWindowInterface *formWindow);
+
+protected:
+    void applyItems(const ItemRecords &items) override;
+};
+
+class ChangeOptionComboCommand : public ChangeContentsCommand<VoCc::OptionComboBox, ItemRecords>
+{
+public:
+    explicit ChangeOptionComboCommand(QDesignerFormWindowInterface *formWindow);
+
+protected:
+    void applyItems(const ItemRecords &items) override;
+};
+
+class ChangeOptionButtonsCommand : public ChangeContentsCommand<VoCc::OptionButtons, ItemRecords>
+{
+public:
+    explicit ChangeOptionButtonsCommand(QDesignerFormWindowInterface *formWindow);
+
+protected:
+    void applyItems(const ItemRecords &items) override;
+};
+
+class ChangeOptionRadiosCommand : public ChangeContentsCommand<VoCc::OptionRadios, ItemRecords>
+{
+public:
+    explicit ChangeOptionRadiosCommand(QDesignerFormWindowInterface *formWindow);
+
+protected:
+    void applyItems(const ItemRecords &items) override;
+};
+
+class ChangeDrawbackBoxCommand
+    : public ChangeContentsCommand<VoCc::DrawbackBoxGroup, PageGroupContents>
+{
+public:
+    explicit ChangeDrawbackBoxCommand(QDesignerFormWindowInterface *formWindow);
+
+    using ChangeContentsCommand::init;
+    // The two page-id lists the editor kept (its initial and its final order) travel with
+    // the command for the record; the pages themselves are in the contents.
+    void init(VoCc::DrawbackBoxGroup *group, const PageGroupContents &oldContents,
+              const PageGroupContents &newContents, const QList<int> &initialOrder,
+              const QList<int> &finalOrder);
+
+protected:
+    void applyItems(const PageGroupContents &contents) override;
+
+private:
+    QList<int> m_initialOrder;
+    QList<int> m_finalOrder;
+};

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QHash>
+#include <QList>
+#include <QString>
+#include <QVariant>
+
+// One entry of a list-like widget while it is edited: item data role -> value. Texts, tool
+// tips, actions and data are Designer string values (role 27 text, 29 tool tip, 33 action,
+// 34 data), the icon a Designer icon value (role 28). A role the entry lacks is absent.
+using ItemRecord = QHash<int, QVariant>;
+using ItemRecords = QList<ItemRecord>;
+
+namespace ItemRoles {
+enum : int {
+    Text = Qt::DisplayPropertyRole,
+    Icon = Qt::DecorationPropertyRole,
+    ToolTip = Qt::ToolTipPropertyRole,
+    Action = Qt::UserRole + 1,
+    Data = Qt::UserRole + 2,
+};
+} // namespace ItemRoles
+
+// Designer's value types compare by content here; QVariant itself would compare them by
+// address.
+bool sameRecords(const ItemRecords &a, const ItemRecords &b);
+
+// The plain string of a string role, or an empty string when the record lacks it.
+QString recordString(const ItemRecord &record, int role);
+// The pixmap path of the icon role (normal mode, off state), or an empty string.
+QString recordIconPath(const ItemRecord &record);
+// One plain string per record, in record order.
+QStringList recordStrings(const ItemRecords &records, int role);
+QStringList recordIconPaths(const ItemRecords &records);
+
+// Record values made from plain strings.
+QVariant designerString(const QString &text);
+QVariant designerIcon(const QString &pixmapPath);
+// Sets role to a string value unless text is empty.
+void setRecordString(ItemRecord &record, int role, const QString &text);
