@@ -1,0 +1,103 @@
+#include "drawbackboxeditor.h"
+
+#include "designerpropertymanager.h"
+#include "itemlisteditor.h"
+
+#include <nui/CommonControls/CcDrawbackBoxGroup.hpp>
+
+#include <QtDesigner/private/qdesigner_widget_p.h>
+
+#include <QDesignerFormEditorInterface>
+#include <QDesignerFormWindowInterface>
+#include <QDesignerMetaDataBaseInterface>
+
+#include <algorithm>
+
+using qdesigner_internal::DesignerPropertyManager;
+using qdesigner_internal::PropertyDefinition;
+
+namespace {
+
+constexpr auto stringType = &DesignerPropertyManager::designerStringTypeId;
+
+// Tool tip and data are offered as on the option editors, though only titles are applied.
+const PropertyDefinition pageProperties[] = {{ItemRoles::Text, 0, stringType, "text"},
+                                             {ItemRoles::ToolTip, 0, stringType, "tooltip"},
+                                             {ItemRoles::Data, 0, stringType, "data"},
+                                             {0, 0, nullptr, nullptr}};
+
+} // namespace
+
+DrawbackBoxEditor::DrawbackBoxEditor(QDesignerFormWindowInterface *form, QWidget *parent)
+    : ListItemDialog(form, parent), m_formWindow(form)
+{ }
+
+PageGroupContents DrawbackBoxEditor::loadFromWidget(VoCc::DrawbackBoxGroup *group)
+{
+    setWindowTitle(tr("Edit DrawbackBoxGroup"));
+    m_group = group;
+    m_loaded = PageGroupContents();
+    m_initialOrder.clear();
+    for (int i = 0; i < group->count(); ++i) {
+        ItemRecord record;
+        setRecordString(record, ItemRoles::Text, group->pageTitle(i));
+        m_loaded.items.append(record);
+        m_loaded.pages.append(group->box(i));
+        m_initialOrder.append(i);
+    }
+    m_currentOrder = m_initialOrder;
+
+    qdesigner_internal::ItemListEditor *editor = itemListEditor();
+    connect(editor, SIGNAL(itemMovedUp(int)), this, SLOT(itemMoveUp(int)));
+    connect(editor, SIGNAL(itemMovedDown(int)), this, SLOT(itemMoveDown(int)));
+    connect(editor, SIGNAL(itemInserted(int)), this, SLOT(itemInsert(int)));
+    connect(editor, SIGNAL(itemDeleted(int)), this, SLOT(itemDelete(int)));
+    fillList(m_loaded.items, group, pageProperties);
+    return m_loaded;
+}
+
+PageGroupContents DrawbackBoxEditor::contents() const
+{
+    PageGroupContents result;
+    result.items = readList();
+    for (const int id : m_currentOrder) {
+        if (m_initialOrder.contains(id))
+            result.pages.append(m_loaded.pages.value(id));
+        else
+            result.pages.append(makePage());
+    }
+    return result;
+}
+
+VoCc::DrawbackBox *DrawbackBoxEditor::makePage() const
+{
+    if (!m_group || !m_formWindow)
+        return nullptr;
+    // The box waits hidden on the group: it becomes a page when the change is applied and
+    // goes back to waiting when it is undone.
+    auto *box = new VoCc::DrawbackBox(m_group);
+    box->hide();
+    auto *page = new QDesignerWidget(m_formWindow, box);
+    page->setObjectName(QStringLiteral("page"));
+    // In the form's tree already, so several new pages get names distinct from each other.
+    m_formWindow->ensureUniqueObjectName(page);
+    page->setWindowTitle(QStringLiteral("test"));
+    m_formWindow->core()->metaDataBase()->add(page);
+    box->setWidget(page);
+    return box;
+}
+
+void DrawbackBoxEditor::itemMoveUp(int row) { m_currentOrder.swapItemsAt(row, row - 1); }
+
+void DrawbackBoxEditor::itemMoveDown(int row) { m_currentOrder.swapItemsAt(row, row + 1); }
+
+void DrawbackBoxEditor::itemInsert(int row)
+{
+    // One more than the largest id so far, and never below 1.
+    const int largest = m_currentOrder.isEmpty()
+            ? 0
+            : qMax(0, *std::max_element(m_currentOrder.cbegin(), m_currentOrder.cend()));
+    m_currentOrder.insert(row, largest + 1);
+}
+
+void DrawbackBoxEditor::itemDelete(int row) { m_currentOrder.removeAt(row); }

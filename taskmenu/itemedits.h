@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QPointer>
+
+QT_BEGIN_NAMESPACE
+class QDesignerFormWindowInterface;
+QT_END_NAMESPACE
+
+namespace VoCc {
+class CheckableTextComboBox;
+class ComboBox;
+class DrawbackBoxGroup;
+class OptionButtons;
+class OptionComboBox;
+class OptionRadios;
+} // namespace VoCc
+
+// One item edit of a widget on a form: opens the widget's editor over the form's window,
+// and when the user accepts a change, pushes the command that applies it on the form's undo
+// stack. A cancel, an unchanged list, or a form or widget gone while the dialog was open,
+// changes nothing.
+void editItems(const QPointer<QDesignerFormWindowInterface> &form,
+               VoCc::CheckableTextComboBox *widget);
+void editItems(const QPointer<QDesignerFormWindowInterface> &form, VoCc::ComboBox *widget);
+void editItems(const QPointer<QDesignerFormWindowInterface> &form, VoCc::OptionComboBox *widget);
+void editItems(const QPointer<QDesignerFormWindowInterface> &form, VoCc::OptionButtons *widget);
+void editItems(const QPointer<QDesignerFormWindowInterface> &form, VoCc::OptionRadios *widget);
+void editItems(const QPointer<QDesignerFormWindowInterface> &form, VoCc::DrawbackBoxGroup *widget);
