@@ -1,0 +1,145 @@
+#include "itemdialogdriver.h"
+
+#include "modalanswer.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QDialog>
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMenu>
+#include <QPushButton>
+#include <QToolButton>
+#include <QTreeWidget>
+#include <QtTest>
+
+namespace CcTest {
+
+namespace {
+
+// The shown line edit among parent's children: the one an editor has just opened.
+QLineEdit *shownLineEdit(QWidget *parent)
+{
+    const QList<QLineEdit *> edits = parent->findChildren<QLineEdit *>();
+    for (QLineEdit *edit : edits) {
+        if (edit->isVisible())
+            return edit;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+ItemDialogDriver::ItemDialogDriver(QDialog *dialog)
+    : m_dialog(dialog),
+      m_list(dialog->findChild<QListWidget *>(QStringLiteral("listWidget"))),
+      m_pane(dialog->findChild<QTreeWidget *>())
+{
+    if (m_pane && !m_pane->isVisible())
+        QTest::mouseClick(dialog->findChild<QPushButton *>(QStringLiteral("showPropertiesButton")),
+                          Qt::LeftButton);
+}
+
+QStringList ItemDialogDriver::rows() const
+{
+    QStringList texts;
+    for (int i = 0; i < m_list->count(); ++i)
+        texts.append(m_list->item(i)->text());
+    return texts;
+}
+
+QStringList ItemDialogDriver::propertyNames() const
+{
+    QStringList names;
+    for (int i = 0; i < m_pane->topLevelItemCount(); ++i)
+        names.append(m_pane->topLevelItem(i)->text(0));
+    return names;
+}
+
+void ItemDialogDriver::select(int row)
+{
+    QListWidgetItem *item = m_list->item(row);
+    m_list->scrollToItem(item);
+    QTest::mouseClick(m_list->viewport(), Qt::LeftButton, {},
+                      m_list->visualItemRect(item).center());
+}
+
+void ItemDialogDriver::click(const char *button)
+{
+    auto *target = m_dialog->findChild<QAbstractButton *>(QLatin1String(button));
+    QVERIFY2(target, button);
+    QTest::mouseClick(target, Qt::LeftButton);
+}
+
+void ItemDialogDriver::addRow(const QString &text)
+{
+    click("newListItemButton");
+    typeInPlace(text);
+}
+
+void ItemDialogDriver::renameCurrent(const QString &text)
+{
+    QTest::keyClick(m_list, Qt::Key_F2);
+    typeInPlace(text);
+}
+
+void ItemDialogDriver::typeInPlace(const QString &text)
+{
+    QLineEdit *edit = shownLineEdit(m_list->viewport());
+    QVERIFY2(edit, "no in-place editor in the list");
+    edit->selectAll();
+    QTest::keyClicks(edit, text);
+    QTest::keyClick(edit, Qt::Key_Return);
+    settle();
+}
+
+void ItemDialogDriver::openPropertyEditor(const QString &name)
+{
+    QTreeWidgetItem *item = nullptr;
+    for (int i = 0; i < m_pane->topLevelItemCount() && !item; ++i) {
+        if (m_pane->topLevelItem(i)->text(0) == name)
+            item = m_pane->topLevelItem(i);
+    }
+    QVERIFY2(item, qPrintable(name));
+    m_pane->scrollToItem(item);
+    // A click on the value column opens the property's editor.
+    const QHeaderView *header = m_pane->header();
+    const QPoint valueCell(header->sectionViewportPosition(1) + header->sectionSize(1) / 2,
+                           m_pane->visualItemRect(item).center().y());
+    QTest::mouseClick(m_pane->viewport(), Qt::LeftButton, {}, valueCell);
+    settle();
+}
+
+void ItemDialogDriver::typeProperty(const QString &name, const QString &text)
+{
+    openPropertyEditor(name);
+    QLineEdit *edit = shownLineEdit(m_pane->viewport());
+    QVERIFY2(edit, qPrintable(name));
+    edit->selectAll();
+    QTest::keyClicks(edit, text);
+    QTest::keyClick(edit, Qt::Key_Return);
+    settle();
+}
+
+void ItemDialogDriver::chooseIconFile(const QString &name, const QString &path)
+{
+    openPropertyEditor(name);
+    QAction *chooseFile = nullptr;
+    const QList<QToolButton *> buttons = m_pane->viewport()->findChildren<QToolButton *>();
+    for (QToolButton *button : buttons) {
+        if (!button->isVisible() || !button->menu())
+            continue;
+        const QList<QAction *> actions = button->menu()->actions();
+        for (QAction *action : actions) {
+            if (action->text() == QLatin1String("Choose File..."))
+                chooseFile = action;
+        }
+    }
+    QVERIFY2(chooseFile, qPrintable(name));
+    answerModal<QFileDialog>([chooseFile] { chooseFile->trigger(); },
+                             [path](QFileDialog *dialog) { typeFileName(dialog, path); });
+    settle();
+}
+
+} // namespace CcTest
