@@ -159,4 +159,6 @@ void ChangeDrawbackBoxCommand::applyItems(const PageGroupContents &contents)
         group->setPageTitle(titles.value(i));
     }
     QMetaObject::invokeMethod(group, "repaint");
+    // Pages came or went: the object inspector shows the form's tree anew.
+    cheapUpdate();
 }
