@@ -150,6 +150,16 @@ void padLists(Lists &lists, const QVector<Field> &fields)
     }
 }
 
+// Only the first count entries of each list belong to an entry of the widget; whatever a
+// list holds beyond them (a tool tip left from an earlier, longer list) is not saved.
+void fitToEntries(Lists &lists, const QVector<Field> &fields, int count)
+{
+    for (Field field : fields) {
+        if (lists[field].size() > count)
+            lists[field].erase(lists[field].begin() + count, lists[field].end());
+    }
+}
+
 DomWidget *findChildElement(DomWidget *domWidget, const QString &objectName)
 {
     const QVector<DomWidget *> children = domWidget->elementWidget();
@@ -360,11 +370,13 @@ void FormBuilder::saveExtraInfo(DomWidget *domWidget, QWidget *widget, void *con
         lists[Icon] = options->iconList();
         lists[ToolTip] = options->toolTips();
         lists[Data] = options->dataList();
+        fitToEntries(lists, optionFields, options->count());
         writeItems(domWidget, lists, optionFields);
     } else if (auto *checkCombo = qobject_cast<CheckableTextComboBox *>(widget)) {
         Lists lists;
         lists[Text] = checkCombo->itemTextList();
         lists[ToolTip] = checkCombo->toolTips();
+        fitToEntries(lists, checkComboFields, lists[Text].size());
         writeItems(domWidget, lists, checkComboFields);
     } else if (auto *matrix = qobject_cast<AbstractMatrixOptions *>(widget)) {
         Lists lists;

@@ -21,7 +21,9 @@ namespace VoCc {
 // an empty entry, so item i holds entry i of every list of the widget, and a widget gets as
 // many items as its longest list has entries:
 //  - OptionComboBox, OptionButtons, OptionRadios, OptionCheckBox: text, icon, toolTip, data;
-//  - CheckableTextComboBox: text, toolTip;
+//    here the text list alone says how many entries there are, and list entries beyond it
+//    are not written;
+//  - CheckableTextComboBox: text, toolTip (the same: as many items as texts);
 //  - MatrixPushButtons, MatrixRadioButtons, MatrixCheckBoxes: text, icon, toolTip, action.
 //    Their dimensions are the properties "row" and "column"; saveExtraInfo writes both next
 //    to the items (replacing any already there), so the file always says how the entries
