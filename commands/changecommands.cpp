@@ -11,10 +11,12 @@
 #include <QtDesigner/private/qdesigner_utils_p.h>
 
 #include <QCoreApplication>
+#include <QStandardItemModel>
 
 using qdesigner_internal::DesignerIconCache;
 using qdesigner_internal::FormWindowBase;
 using qdesigner_internal::PropertySheetIconValue;
+using qdesigner_internal::PropertySheetStringValue;
 
 namespace {
 
@@ -81,21 +83,38 @@ void ChangeComboBoxCommand::applyItems(const ItemRecords &items)
     if (!m_widget)
         return;
     m_widget->clear();
+    // All rows go into the combo box's own model in one insertion; a model of another kind
+    // gets them one at a time.
+    auto *model = qobject_cast<QStandardItemModel *>(m_widget->model());
+    QList<QStandardItem *> rows;
     QStringList actions;
     actions.reserve(items.size());
     for (const ItemRecord &item : items) {
+        const QVariant text = item.value(ItemRoles::Text);
         const QVariant icon = item.value(ItemRoles::Icon);
-        m_widget->addItem(m_iconCache
-                                  ? m_iconCache->icon(qvariant_cast<PropertySheetIconValue>(icon))
-                                  : QIcon(),
-                          recordString(item, ItemRoles::Text), QVariant());
-        // Designer writes a combo box's items from these roles, and the editor reads them
-        // back from here.
-        const int index = m_widget->count() - 1;
-        m_widget->setItemData(index, item.value(ItemRoles::Text), ItemRoles::Text);
-        m_widget->setItemData(index, icon, ItemRoles::Icon);
+        const QIcon shownIcon = m_iconCache && icon.isValid()
+                ? m_iconCache->icon(qvariant_cast<PropertySheetIconValue>(icon))
+                : QIcon();
+        const QString shownText = qvariant_cast<PropertySheetStringValue>(text).value();
+        // Designer writes a combo box's items from the designer values, and the editor reads
+        // them back from there.
+        if (model) {
+            auto *row = new QStandardItem(shownText);
+            if (!shownIcon.isNull())
+                row->setIcon(shownIcon);
+            row->setData(text, ItemRoles::Text);
+            row->setData(icon, ItemRoles::Icon);
+            rows.append(row);
+        } else {
+            m_widget->addItem(shownIcon, shownText, QVariant());
+            const int index = m_widget->count() - 1;
+            m_widget->setItemData(index, text, ItemRoles::Text);
+            m_widget->setItemData(index, icon, ItemRoles::Icon);
+        }
         actions.append(recordString(item, ItemRoles::Action));
     }
+    if (model)
+        model->invisibleRootItem()->appendRows(rows);
     m_widget->setActionList(actions);
 }
 

@@ -39,16 +39,18 @@ void ListItemDialog::fillList(const ItemRecords &items, QWidget *widget,
     QListWidget *list = m_itemListEditor->listWidget();
     DesignerIconCache *iconCache = m_itemListEditor->iconCache();
     for (const ItemRecord &record : items) {
-        // Filled before it joins the list, so the list reports no edits.
+        // Filled before it joins the list, so the list reports no edits. The designer values
+        // are shown through their plain twins.
         auto *item = new QListWidgetItem;
-        for (auto it = record.cbegin(); it != record.cend(); ++it)
+        for (auto it = record.cbegin(); it != record.cend(); ++it) {
             item->setData(it.key(), it.value());
-        item->setText(recordString(record, ItemRoles::Text));
-        if (record.contains(ItemRoles::Icon) && iconCache)
-            item->setIcon(iconCache->icon(
-                    qvariant_cast<PropertySheetIconValue>(record.value(ItemRoles::Icon))));
-        if (record.contains(ItemRoles::ToolTip))
-            item->setToolTip(recordString(record, ItemRoles::ToolTip));
+            if (it.key() == ItemRoles::Text)
+                item->setText(qvariant_cast<PropertySheetStringValue>(it.value()).value());
+            else if (it.key() == ItemRoles::ToolTip)
+                item->setToolTip(qvariant_cast<PropertySheetStringValue>(it.value()).value());
+            else if (it.key() == ItemRoles::Icon && iconCache)
+                item->setIcon(iconCache->icon(qvariant_cast<PropertySheetIconValue>(it.value())));
+        }
         item->setFlags(item->flags() | Qt::ItemIsEditable);
         list->addItem(item);
     }
