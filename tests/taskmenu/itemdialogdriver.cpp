@@ -18,15 +18,18 @@ namespace CcTest {
 
 namespace {
 
-// The shown line edit among parent's children: the one an editor has just opened.
-QLineEdit *shownLineEdit(QWidget *parent)
+// Types into the line edit an editor has just opened among parent's children, and ends the
+// editing with Return.
+void typeIntoShownEditor(QWidget *parent, const QString &text)
 {
     const QList<QLineEdit *> edits = parent->findChildren<QLineEdit *>();
-    for (QLineEdit *edit : edits) {
-        if (edit->isVisible())
-            return edit;
-    }
-    return nullptr;
+    auto shown = std::find_if(edits.cbegin(), edits.cend(),
+                              [](const QLineEdit *edit) { return edit->isVisible(); });
+    QVERIFY2(shown != edits.cend(), "no editor open");
+    (*shown)->selectAll();
+    QTest::keyClicks(*shown, text);
+    QTest::keyClick(*shown, Qt::Key_Return);
+    settle();
 }
 
 } // namespace
@@ -75,23 +78,13 @@ void ItemDialogDriver::click(const char *button)
 void ItemDialogDriver::addRow(const QString &text)
 {
     click("newListItemButton");
-    typeInPlace(text);
+    typeIntoShownEditor(m_list->viewport(), text);
 }
 
 void ItemDialogDriver::renameCurrent(const QString &text)
 {
     QTest::keyClick(m_list, Qt::Key_F2);
-    typeInPlace(text);
-}
-
-void ItemDialogDriver::typeInPlace(const QString &text)
-{
-    QLineEdit *edit = shownLineEdit(m_list->viewport());
-    QVERIFY2(edit, "no in-place editor in the list");
-    edit->selectAll();
-    QTest::keyClicks(edit, text);
-    QTest::keyClick(edit, Qt::Key_Return);
-    settle();
+    typeIntoShownEditor(m_list->viewport(), text);
 }
 
 void ItemDialogDriver::openPropertyEditor(const QString &name)
@@ -114,12 +107,7 @@ void ItemDialogDriver::openPropertyEditor(const QString &name)
 void ItemDialogDriver::typeProperty(const QString &name, const QString &text)
 {
     openPropertyEditor(name);
-    QLineEdit *edit = shownLineEdit(m_pane->viewport());
-    QVERIFY2(edit, qPrintable(name));
-    edit->selectAll();
-    QTest::keyClicks(edit, text);
-    QTest::keyClick(edit, Qt::Key_Return);
-    settle();
+    typeIntoShownEditor(m_pane->viewport(), text);
 }
 
 void ItemDialogDriver::chooseIconFile(const QString &name, const QString &path)

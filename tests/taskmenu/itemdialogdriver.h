@@ -40,7 +40,6 @@ public:
 
 private:
     void openPropertyEditor(const QString &name);
-    void typeInPlace(const QString &text);
 
     QDialog *m_dialog;
     QListWidget *m_list;
