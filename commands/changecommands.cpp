@@ -1,8 +1,10 @@
 #include "changecommands.h"
 
+#include <nui/CommonControls/CcAbstractMatrixOptions.hpp>
 #include <nui/CommonControls/CcCheckableTextComboBox.hpp>
 #include <nui/CommonControls/CcComboBox.hpp>
 #include <nui/CommonControls/CcDrawbackBoxGroup.hpp>
+#include <nui/CommonControls/CcMatrixPopButtons.hpp>
 #include <nui/CommonControls/template/CcOptionButtons.hpp>
 #include <nui/CommonControls/template/CcOptionComboBox.hpp>
 #include <nui/CommonControls/template/CcOptionRadios.hpp>
@@ -36,6 +38,28 @@ DesignerIconCache *iconCacheOf(QDesignerFormWindowInterface *formWindow)
 // library spells it so).
 void relayOut(QWidget *options) { QMetaObject::invokeMethod(options, "updateGeomtries"); }
 
+// The cells of a matrix: its lists emptied first, then written whole.
+template<class Matrix>
+void applyCells(Matrix *matrix, const MatrixContents &contents)
+{
+    QStringList texts, iconPaths, toolTips, actions;
+    contents.toLists(&texts, &iconPaths, &toolTips, &actions);
+    matrix->setTextList(texts);
+    matrix->setIconList(iconPaths);
+    matrix->setToolTips(toolTips);
+    matrix->setActionList(actions);
+    relayOut(matrix);
+}
+
+template<class Matrix>
+void clearCells(Matrix *matrix)
+{
+    matrix->setTextList({});
+    matrix->setIconList({});
+    matrix->setToolTips({});
+    matrix->setActionList({});
+}
+
 template<class Options>
 void applyOptions(Options *options, const ItemRecords &items)
 {
@@ -61,6 +85,8 @@ template class ChangeContentsCommand<VoCc::OptionComboBox, ItemRecords>;
 template class ChangeContentsCommand<VoCc::OptionButtons, ItemRecords>;
 template class ChangeContentsCommand<VoCc::OptionRadios, ItemRecords>;
 template class ChangeContentsCommand<VoCc::DrawbackBoxGroup, PageGroupContents>;
+template class ChangeContentsCommand<VoCc::AbstractMatrixOptions, MatrixContents>;
+template class ChangeContentsCommand<VoCc::MatrixPopButtons, MatrixContents>;
 
 ChangeCheckComboCommand::ChangeCheckComboCommand(QDesignerFormWindowInterface *formWindow)
     : ChangeContentsCommand(nullptr, formWindow)
@@ -180,4 +206,30 @@ void ChangeDrawbackBoxCommand::applyItems(const PageGroupContents &contents)
     QMetaObject::invokeMethod(group, "repaint");
     // Pages came or went: the object inspector shows the form's tree anew.
     cheapUpdate();
+}
+
+ChangeMatrixBtnsCommand::ChangeMatrixBtnsCommand(QDesignerFormWindowInterface *formWindow)
+    : ChangeContentsCommand(QT_TRANSLATE_NOOP("Command", "Change MatrixButtons Contents"),
+                            formWindow)
+{ }
+
+void ChangeMatrixBtnsCommand::applyItems(const MatrixContents &contents)
+{
+    VoCc::AbstractMatrixOptions *matrix = m_widget.data();
+    clearCells(matrix);
+    applyCells(matrix, contents);
+}
+
+ChangeMatrixPopBtnsCommand::ChangeMatrixPopBtnsCommand(QDesignerFormWindowInterface *formWindow)
+    : ChangeContentsCommand(QT_TRANSLATE_NOOP("Command", "Change MatrixPopButtons Contents"),
+                            formWindow)
+{ }
+
+void ChangeMatrixPopBtnsCommand::applyItems(const MatrixContents &contents)
+{
+    VoCc::MatrixPopButtons *matrix = m_widget.data();
+    clearCells(matrix);
+    matrix->setColumn(contents.columnCount);
+    matrix->setRow(contents.rowCount);
+    applyCells(matrix, contents);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "itemrecord.h"
+#include "matrixcontents.h"
 #include "pagegroupcontents.h"
 
 #include <QtDesigner/private/qdesigner_formwindowcommand_p.h>
@@ -12,9 +13,11 @@ class DesignerIconCache;
 }
 
 namespace VoCc {
+class AbstractMatrixOptions;
 class CheckableTextComboBox;
 class ComboBox;
 class DrawbackBoxGroup;
+class MatrixPopButtons;
 class OptionButtons;
 class OptionComboBox;
 class OptionRadios;
@@ -114,4 +117,28 @@ protected:
 private:
     QList<int> m_initialOrder;
     QList<int> m_finalOrder;
+};
+
+// Writes the cells of a push-button, radio-button or check-box matrix. The dimensions are not
+// its business: the task menu sets them as properties of their own, so undoing this command
+// alone restores the cells but not the counts.
+class ChangeMatrixBtnsCommand
+    : public ChangeContentsCommand<VoCc::AbstractMatrixOptions, MatrixContents>
+{
+public:
+    explicit ChangeMatrixBtnsCommand(QDesignerFormWindowInterface *formWindow);
+
+protected:
+    void applyItems(const MatrixContents &contents) override;
+};
+
+// Writes the cells of a pop-button matrix, and its dimensions with them.
+class ChangeMatrixPopBtnsCommand
+    : public ChangeContentsCommand<VoCc::MatrixPopButtons, MatrixContents>
+{
+public:
+    explicit ChangeMatrixPopBtnsCommand(QDesignerFormWindowInterface *formWindow);
+
+protected:
+    void applyItems(const MatrixContents &contents) override;
 };

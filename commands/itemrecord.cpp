@@ -20,6 +20,8 @@ bool sameValue(const QVariant &a, const QVariant &b)
     return a == b;
 }
 
+} // namespace
+
 bool sameRecord(const ItemRecord &a, const ItemRecord &b)
 {
     if (a.size() != b.size())
@@ -31,8 +33,6 @@ bool sameRecord(const ItemRecord &a, const ItemRecord &b)
     }
     return true;
 }
-
-} // namespace
 
 bool sameRecords(const ItemRecords &a, const ItemRecords &b)
 {

@@ -23,6 +23,7 @@ enum : int {
 
 // Designer's value types compare by content here; QVariant itself would compare them by
 // address.
+bool sameRecord(const ItemRecord &a, const ItemRecord &b);
 bool sameRecords(const ItemRecords &a, const ItemRecords &b);
 
 // The plain string of a string role, or an empty string when the record lacks it.
