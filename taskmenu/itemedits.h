@@ -7,9 +7,11 @@ class QDesignerFormWindowInterface;
 QT_END_NAMESPACE
 
 namespace VoCc {
+class AbstractMatrixOptions;
 class CheckableTextComboBox;
 class ComboBox;
 class DrawbackBoxGroup;
+class MatrixPopButtons;
 class OptionButtons;
 class OptionComboBox;
 class OptionRadios;
@@ -18,7 +20,8 @@ class OptionRadios;
 // One item edit of a widget on a form: opens the widget's editor over the form's window,
 // and when the user accepts a change, pushes the command that applies it on the form's undo
 // stack. A cancel, an unchanged list, or a form or widget gone while the dialog was open,
-// changes nothing.
+// changes nothing. The push-button, radio-button and check-box matrices also get their new
+// row and column counts as property changes of their own.
 void editItems(const QPointer<QDesignerFormWindowInterface> &form,
                VoCc::CheckableTextComboBox *widget);
 void editItems(const QPointer<QDesignerFormWindowInterface> &form, VoCc::ComboBox *widget);
@@ -26,3 +29,6 @@ void editItems(const QPointer<QDesignerFormWindowInterface> &form, VoCc::OptionC
 void editItems(const QPointer<QDesignerFormWindowInterface> &form, VoCc::OptionButtons *widget);
 void editItems(const QPointer<QDesignerFormWindowInterface> &form, VoCc::OptionRadios *widget);
 void editItems(const QPointer<QDesignerFormWindowInterface> &form, VoCc::DrawbackBoxGroup *widget);
+void editItems(const QPointer<QDesignerFormWindowInterface> &form,
+               VoCc::AbstractMatrixOptions *widget);
+void editItems(const QPointer<QDesignerFormWindowInterface> &form, VoCc::MatrixPopButtons *widget);

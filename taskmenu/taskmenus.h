@@ -9,6 +9,8 @@
 #include <QPointer>
 
 #include <nui/CommonControls/CcCheckableTextComboBox.hpp>
+#include <nui/CommonControls/CcMatrixButtons.hpp>
+#include <nui/CommonControls/CcMatrixPopButtons.hpp>
 #include <nui/CommonControls/CcComboBox.hpp>
 #include <nui/CommonControls/CcDrawbackBoxGroup.hpp>
 #include <nui/CommonControls/template/CcOptionButtons.hpp>
@@ -99,4 +101,13 @@ CC_TASK_MENU_FACTORY(OptionRadiosFactory, OptionRadiosTaskMenu, VoCc::OptionRadi
 
 CC_TASK_MENU(DrawbackBoxTaskMenu, VoCc::DrawbackBoxGroup, "Edit DrawbackBox")
 CC_TASK_MENU_FACTORY(DrawbackBoxFactory, DrawbackBoxTaskMenu, VoCc::DrawbackBoxGroup)
+
+// One task menu serves the three button matrices, each through a factory of its own.
+CC_TASK_MENU(MatrixPushButtonsTaskMenu, VoCc::AbstractMatrixOptions, "Edit Buttons")
+CC_TASK_MENU_FACTORY(MatrixPushButtonsFactory, MatrixPushButtonsTaskMenu, VoCc::MatrixPushButtons)
+CC_TASK_MENU_FACTORY(MatrixRadioButtonsFactory, MatrixPushButtonsTaskMenu, VoCc::MatrixRadioButtons)
+CC_TASK_MENU_FACTORY(MatrixCheckBoxesFactory, MatrixPushButtonsTaskMenu, VoCc::MatrixCheckBoxes)
+
+CC_TASK_MENU(MatrixPopButtonsTaskMenu, VoCc::MatrixPopButtons, "Edit Buttons")
+CC_TASK_MENU_FACTORY(MatrixPopButtonsFactory, MatrixPopButtonsTaskMenu, VoCc::MatrixPopButtons)
 // clang-format on

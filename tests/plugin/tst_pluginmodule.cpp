@@ -61,7 +61,9 @@ private slots:
         QCOMPARE(factories,
                  QStringList({"OptionButtonsFactory", "QExtensionFactory", "OptionComboFactory",
                               "OptionRadiosFactory", "CheckComboFactory", "ComboBoxFactory",
-                              "DrawbackBoxGroupExtensionFactory", "DrawbackBoxFactory"}));
+                              "DrawbackBoxGroupExtensionFactory", "DrawbackBoxFactory",
+                              "MatrixCheckBoxesFactory", "MatrixPopButtonsFactory",
+                              "MatrixPushButtonsFactory", "MatrixRadioButtonsFactory"}));
         QVERIFY(dynamic_cast<ExtraInfoExtensionFactory *>(registered.at(1)));
         QPushButton button;
         auto *extension = qobject_cast<ExtraInfoExtension *>(
