@@ -160,6 +160,24 @@ void fitToEntries(Lists &lists, const QVector<Field> &fields, int count)
     }
 }
 
+// A matrix shows row x column cells whatever its lists hold, and an entry that is empty in
+// every list is a blank cell: trailing ones carry nothing and are not written, so a grid
+// written with its lists padded to the cell count saves as it did before.
+void dropTrailingBlankCells(Lists &lists, const QVector<Field> &fields)
+{
+    int count = 0;
+    for (Field field : fields) {
+        const QStringList &list = lists[field];
+        for (int i = list.size(); i > count; --i) {
+            if (!list.at(i - 1).isEmpty()) {
+                count = i;
+                break;
+            }
+        }
+    }
+    fitToEntries(lists, fields, count);
+}
+
 DomWidget *findChildElement(DomWidget *domWidget, const QString &objectName)
 {
     const QVector<DomWidget *> children = domWidget->elementWidget();
@@ -386,15 +404,18 @@ void FormBuilder::saveExtraInfo(DomWidget *domWidget, QWidget *widget, void *con
         lists[Action] = matrix->actionList();
         setNumberProperty(domWidget, rowProperty, matrix->row());
         setNumberProperty(domWidget, columnProperty, matrix->column());
+        dropTrailingBlankCells(lists, matrixFields);
         writeItems(domWidget, lists, matrixFields);
     } else if (auto *popButtons = qobject_cast<MatrixPopButtons *>(widget)) {
         Lists lists;
+        lists[Text] = popButtons->textList();
         lists[Icon] = popButtons->iconList();
         lists[ToolTip] = popButtons->toolTips();
         lists[Action] = popButtons->actionList();
+        dropTrailingBlankCells(lists, matrixFields);
         setNumberProperty(domWidget, rowProperty, popButtons->row());
         setNumberProperty(domWidget, columnProperty, popButtons->column());
-        setStringListProperty(domWidget, textListProperty, popButtons->textList());
+        setStringListProperty(domWidget, textListProperty, lists[Text]);
         writeItems(domWidget, lists, popCellFields);
     } else if (auto *comboBox = qobject_cast<ComboBox *>(widget)) {
         // The items themselves are the form writer's; each gets its action.

@@ -28,7 +28,8 @@ namespace VoCc {
 //    Their dimensions are the properties "row" and "column"; saveExtraInfo writes both next
 //    to the items (replacing any already there), so the file always says how the entries
 //    are laid out. The lists do not depend on the dimensions: a grid shows its first
-//    row x column entries.
+//    row x column entries. Trailing entries that are empty in every list are blank cells
+//    and are not written (the same for MatrixPopButtons).
 //  - MatrixPopButtons: its texts are its "textList" property, never items; its items carry
 //    icon, toolTip and action only, and "row", "column" and "textList" are written as
 //    properties (replacing any already there), so no text is stored twice. When loading a
