@@ -10,6 +10,8 @@
 #include <QListWidget>
 #include <QMenu>
 #include <QPushButton>
+#include <QSpinBox>
+#include <QTableWidget>
 #include <QToolButton>
 #include <QTreeWidget>
 #include <QtTest>
@@ -37,6 +39,7 @@ void typeIntoShownEditor(QWidget *parent, const QString &text)
 ItemDialogDriver::ItemDialogDriver(QDialog *dialog)
     : m_dialog(dialog),
       m_list(dialog->findChild<QListWidget *>(QStringLiteral("listWidget"))),
+      m_table(dialog->findChild<QTableWidget *>(QStringLiteral("tableWidget"))),
       m_pane(dialog->findChild<QTreeWidget *>())
 {
     if (m_pane && !m_pane->isVisible())
@@ -47,8 +50,12 @@ ItemDialogDriver::ItemDialogDriver(QDialog *dialog)
 QStringList ItemDialogDriver::rows() const
 {
     QStringList texts;
-    for (int i = 0; i < m_list->count(); ++i)
+    for (int i = 0; m_list && i < m_list->count(); ++i)
         texts.append(m_list->item(i)->text());
+    for (int r = 0; m_table && r < m_table->rowCount(); ++r) {
+        for (int c = 0; c < m_table->columnCount(); ++c)
+            texts.append(m_table->item(r, c) ? m_table->item(r, c)->text() : QString());
+    }
     return texts;
 }
 
@@ -58,6 +65,44 @@ QStringList ItemDialogDriver::propertyNames() const
     for (int i = 0; i < m_pane->topLevelItemCount(); ++i)
         names.append(m_pane->topLevelItem(i)->text(0));
     return names;
+}
+
+QTreeWidgetItem *ItemDialogDriver::propertyItem(const QString &name) const
+{
+    for (int i = 0; i < m_pane->topLevelItemCount(); ++i) {
+        if (m_pane->topLevelItem(i)->text(0) == name)
+            return m_pane->topLevelItem(i);
+    }
+    return nullptr;
+}
+
+QString ItemDialogDriver::propertyValue(const QString &name) const
+{
+    const QTreeWidgetItem *item = propertyItem(name);
+    return item ? item->text(1) : QStringLiteral("<no %1>").arg(name);
+}
+
+QAbstractItemView *ItemDialogDriver::view() const
+{
+    return m_list ? static_cast<QAbstractItemView *>(m_list) : m_table;
+}
+
+void ItemDialogDriver::selectCell(int row, int column)
+{
+    const QModelIndex index = m_table->model()->index(row, column);
+    m_table->scrollTo(index);
+    QTest::mouseClick(m_table->viewport(), Qt::LeftButton, {}, m_table->visualRect(index).center());
+}
+
+void ItemDialogDriver::stepTo(const char *spinBox, int value)
+{
+    auto *spin = m_dialog->findChild<QSpinBox *>(QLatin1String(spinBox));
+    QVERIFY2(spin, spinBox);
+    while (spin->value() != value) {
+        const int before = spin->value();
+        QTest::keyClick(spin, before < value ? Qt::Key_Up : Qt::Key_Down);
+        QVERIFY2(spin->value() != before, spinBox);
+    }
 }
 
 void ItemDialogDriver::select(int row)
@@ -83,17 +128,13 @@ void ItemDialogDriver::addRow(const QString &text)
 
 void ItemDialogDriver::renameCurrent(const QString &text)
 {
-    QTest::keyClick(m_list, Qt::Key_F2);
-    typeIntoShownEditor(m_list->viewport(), text);
+    QTest::keyClick(view(), Qt::Key_F2);
+    typeIntoShownEditor(view()->viewport(), text);
 }
 
 void ItemDialogDriver::openPropertyEditor(const QString &name)
 {
-    QTreeWidgetItem *item = nullptr;
-    for (int i = 0; i < m_pane->topLevelItemCount() && !item; ++i) {
-        if (m_pane->topLevelItem(i)->text(0) == name)
-            item = m_pane->topLevelItem(i);
-    }
+    QTreeWidgetItem *item = propertyItem(name);
     QVERIFY2(item, qPrintable(name));
     m_pane->scrollToItem(item);
     // A click on the value column opens the property's editor.
