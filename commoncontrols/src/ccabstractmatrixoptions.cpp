@@ -1,6 +1,7 @@
 #include "nui/CommonControls/CcAbstractMatrixOptions.hpp"
 
 #include "ccentrylists.h"
+#include "ccgridcells.h"
 
 #include <QAbstractButton>
 #include <QButtonGroup>
@@ -10,7 +11,10 @@
 namespace VoCc {
 
 AbstractMatrixOptions::AbstractMatrixOptions(QWidget *parent)
-    : QWidget(parent), m_layout(new QGridLayout(this)), m_group(new QButtonGroup(this))
+    : QWidget(parent),
+      m_layout(new QGridLayout(this)),
+      m_group(new QButtonGroup(this)),
+      m_cells(new GridCells)
 {
     m_layout->setContentsMargins(0, 0, 0, 0);
     m_layout->setSpacing(2);
@@ -44,46 +48,62 @@ void AbstractMatrixOptions::setColumn(int columns)
     rebuildButtons();
 }
 
-QStringList AbstractMatrixOptions::textList() const { return m_textList; }
+QStringList AbstractMatrixOptions::textList() const { return m_cells->list(GridCells::Text); }
 
 void AbstractMatrixOptions::setTextList(const QStringList &texts)
 {
-    m_textList = texts;
-    refreshButtons();
+    setList(GridCells::Text, texts);
 }
 
-QStringList AbstractMatrixOptions::iconList() const { return m_iconList; }
+QStringList AbstractMatrixOptions::iconList() const { return m_cells->list(GridCells::Icon); }
 
 void AbstractMatrixOptions::setIconList(const QStringList &iconPaths)
 {
-    m_iconList = iconPaths;
-    refreshButtons();
+    setList(GridCells::Icon, iconPaths);
 }
 
-QStringList AbstractMatrixOptions::toolTips() const { return m_toolTips; }
+QStringList AbstractMatrixOptions::toolTips() const { return m_cells->list(GridCells::ToolTip); }
 
 void AbstractMatrixOptions::setToolTips(const QStringList &toolTips)
 {
-    m_toolTips = toolTips;
-    refreshButtons();
+    setList(GridCells::ToolTip, toolTips);
 }
 
-QStringList AbstractMatrixOptions::actionList() const { return m_actionList; }
+QStringList AbstractMatrixOptions::actionList() const { return m_cells->list(GridCells::Action); }
 
 void AbstractMatrixOptions::setActionList(const QStringList &actions)
 {
-    m_actionList = actions;
-    refreshButtons();
+    setList(GridCells::Action, actions);
 }
 
 QAbstractButton *AbstractMatrixOptions::button(int index) const
 {
+    // Whoever asks for a button sees the lists as they are now.
+    const_cast<AbstractMatrixOptions *>(this)->refreshButtons();
     return index >= 0 && index < m_buttons.size() ? m_buttons.at(index) : nullptr;
 }
 
 int AbstractMatrixOptions::buttonCount() const { return m_rows * m_columns; }
 
-void AbstractMatrixOptions::updateGeomtries() { rebuildButtons(); }
+void AbstractMatrixOptions::updateGeomtries()
+{
+    if (m_buttons.size() != m_rows * m_columns) {
+        rebuildButtons();
+        return;
+    }
+    refreshButtons();
+    m_layout->invalidate();
+    updateGeometry();
+}
+
+void AbstractMatrixOptions::setList(int aspect, const QStringList &list)
+{
+    // The first change since the buttons were last brought up to date schedules that; any
+    // further ones join it.
+    if (m_cells->setList(GridCells::Aspect(aspect), list))
+        QMetaObject::invokeMethod(
+                this, [this] { refreshButtons(); }, Qt::QueuedConnection);
+}
 
 bool AbstractMatrixOptions::isExclusive() const { return false; }
 
@@ -98,6 +118,7 @@ void AbstractMatrixOptions::rebuildButtons()
         m_layout->addWidget(cell, i / m_columns, i % m_columns);
         m_buttons.append(cell);
     }
+    m_cells->buttonsMade();
     refreshButtons();
     updateGeometry();
 }
@@ -108,19 +129,29 @@ void AbstractMatrixOptions::refreshButtons()
         rebuildButtons();
         return;
     }
-    for (int i = 0; i < m_buttons.size(); ++i) {
+    m_cells->show(m_buttons.size(), [this](int i, GridCells::Aspect aspect, const QString &entry) {
         QAbstractButton *cell = m_buttons.at(i);
-        cell->setText(EntryLists::at(m_textList, i));
-        cell->setIcon(EntryLists::iconFromPath(EntryLists::at(m_iconList, i)));
-        cell->setToolTip(EntryLists::at(m_toolTips, i));
-        cell->setProperty("action", EntryLists::at(m_actionList, i));
-    }
+        switch (aspect) {
+        case GridCells::Text:
+            cell->setText(entry);
+            break;
+        case GridCells::Icon:
+            cell->setIcon(EntryLists::iconFromPath(entry));
+            break;
+        case GridCells::ToolTip:
+            cell->setToolTip(entry);
+            break;
+        default:
+            cell->setProperty("action", entry);
+            break;
+        }
+    });
 }
 
 void AbstractMatrixOptions::onButtonClicked(int index)
 {
     emit buttonClicked(index);
-    const QString action = EntryLists::at(m_actionList, index);
+    const QString action = EntryLists::at(m_cells->list(GridCells::Action), index);
     if (!action.isEmpty())
         emit actionTriggered(action);
 }

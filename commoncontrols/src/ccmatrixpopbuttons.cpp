@@ -1,6 +1,7 @@
 #include "nui/CommonControls/CcMatrixPopButtons.hpp"
 
 #include "ccentrylists.h"
+#include "ccgridcells.h"
 
 #include <QGridLayout>
 #include <QMenu>
@@ -9,7 +10,7 @@
 namespace VoCc {
 
 MatrixPopButtons::MatrixPopButtons(QWidget *parent)
-    : QWidget(parent), m_layout(new QGridLayout(this))
+    : QWidget(parent), m_layout(new QGridLayout(this)), m_cells(new GridCells)
 {
     m_layout->setContentsMargins(0, 0, 0, 0);
     m_layout->setSpacing(2);
@@ -40,40 +41,35 @@ void MatrixPopButtons::setColumn(int columns)
     rebuildButtons();
 }
 
-QStringList MatrixPopButtons::textList() const { return m_textList; }
+QStringList MatrixPopButtons::textList() const { return m_cells->list(GridCells::Text); }
 
-void MatrixPopButtons::setTextList(const QStringList &texts)
-{
-    m_textList = texts;
-    refreshButtons();
-}
+void MatrixPopButtons::setTextList(const QStringList &texts) { setList(GridCells::Text, texts); }
 
-QStringList MatrixPopButtons::iconList() const { return m_iconList; }
+QStringList MatrixPopButtons::iconList() const { return m_cells->list(GridCells::Icon); }
 
 void MatrixPopButtons::setIconList(const QStringList &iconPaths)
 {
-    m_iconList = iconPaths;
-    refreshButtons();
+    setList(GridCells::Icon, iconPaths);
 }
 
-QStringList MatrixPopButtons::toolTips() const { return m_toolTips; }
+QStringList MatrixPopButtons::toolTips() const { return m_cells->list(GridCells::ToolTip); }
 
 void MatrixPopButtons::setToolTips(const QStringList &toolTips)
 {
-    m_toolTips = toolTips;
-    refreshButtons();
+    setList(GridCells::ToolTip, toolTips);
 }
 
-QStringList MatrixPopButtons::actionList() const { return m_actionList; }
+QStringList MatrixPopButtons::actionList() const { return m_cells->list(GridCells::Action); }
 
 void MatrixPopButtons::setActionList(const QStringList &actions)
 {
-    m_actionList = actions;
-    refreshButtons();
+    setList(GridCells::Action, actions);
 }
 
 QToolButton *MatrixPopButtons::button(int index) const
 {
+    // Whoever asks for a button sees the lists as they are now.
+    const_cast<MatrixPopButtons *>(this)->refreshButtons();
     return index >= 0 && index < m_buttons.size() ? m_buttons.at(index) : nullptr;
 }
 
@@ -85,7 +81,25 @@ QMenu *MatrixPopButtons::menu(int index) const
 
 int MatrixPopButtons::buttonCount() const { return m_rows * m_columns; }
 
-void MatrixPopButtons::updateGeomtries() { rebuildButtons(); }
+void MatrixPopButtons::updateGeomtries()
+{
+    if (m_buttons.size() != m_rows * m_columns) {
+        rebuildButtons();
+        return;
+    }
+    refreshButtons();
+    m_layout->invalidate();
+    updateGeometry();
+}
+
+void MatrixPopButtons::setList(int aspect, const QStringList &list)
+{
+    // The first change since the buttons were last brought up to date schedules that; any
+    // further ones join it.
+    if (m_cells->setList(GridCells::Aspect(aspect), list))
+        QMetaObject::invokeMethod(
+                this, [this] { refreshButtons(); }, Qt::QueuedConnection);
+}
 
 void MatrixPopButtons::rebuildButtons()
 {
@@ -101,36 +115,49 @@ void MatrixPopButtons::rebuildButtons()
         m_layout->addWidget(cell, i / m_columns, i % m_columns);
         m_buttons.append(cell);
     }
+    m_cells->buttonsMade();
     refreshButtons();
     updateGeometry();
 }
 
 void MatrixPopButtons::refreshButtons()
 {
-    for (int i = 0; i < m_buttons.size(); ++i) {
+    m_cells->show(m_buttons.size(), [this](int i, GridCells::Aspect aspect, const QString &entry) {
         QToolButton *cell = m_buttons.at(i);
-        cell->setText(EntryLists::at(m_textList, i));
-        cell->setIcon(EntryLists::iconFromPath(EntryLists::at(m_iconList, i)));
-        cell->setToolTip(EntryLists::at(m_toolTips, i));
-
-        // The first menu entry is the cell's action; entries an application added stay.
-        QMenu *popup = cell->menu();
-        const QString action = EntryLists::at(m_actionList, i);
-        QAction *first = popup->actions().value(0);
-        if (first && first->property("ccCellAction").toBool()) {
-            if (action.isEmpty()) {
-                popup->removeAction(first);
-                delete first;
-            } else {
-                first->setText(action);
-            }
-        } else if (!action.isEmpty()) {
-            auto *entry = new QAction(action, popup);
-            entry->setProperty("ccCellAction", true);
-            connect(entry, &QAction::triggered, this,
-                    [this, entry] { emit actionTriggered(entry->text()); });
-            popup->insertAction(first, entry);
+        switch (aspect) {
+        case GridCells::Text:
+            cell->setText(entry);
+            break;
+        case GridCells::Icon:
+            cell->setIcon(EntryLists::iconFromPath(entry));
+            break;
+        case GridCells::ToolTip:
+            cell->setToolTip(entry);
+            break;
+        default:
+            showAction(cell->menu(), entry);
+            break;
         }
+    });
+}
+
+// The first menu entry is the cell's action; entries an application added stay.
+void MatrixPopButtons::showAction(QMenu *popup, const QString &action)
+{
+    QAction *first = popup->actions().value(0);
+    if (first && first->property("ccCellAction").toBool()) {
+        if (action.isEmpty()) {
+            popup->removeAction(first);
+            delete first;
+        } else {
+            first->setText(action);
+        }
+    } else if (!action.isEmpty()) {
+        auto *entry = new QAction(action, popup);
+        entry->setProperty("ccCellAction", true);
+        connect(entry, &QAction::triggered, this,
+                [this, entry] { emit actionTriggered(entry->text()); });
+        popup->insertAction(first, entry);
     }
 }
 

@@ -6,16 +6,21 @@
 #include <QStringList>
 #include <QWidget>
 
+#include <memory>
+
 class QAbstractButton;
 class QButtonGroup;
 class QGridLayout;
 
 namespace VoCc {
 
+class GridCells;
+
 // A grid of row x column buttons. Button i sits at row i / column, column i % column and
 // takes entry i of the text, icon (pixmap path), tool-tip and action lists; lists shorter
 // than the grid leave the remaining buttons blank, longer ones keep their extra entries for
-// a larger grid. The dimensions are the properties "row" and "column".
+// a larger grid. The dimensions are the properties "row" and "column". The buttons take up
+// list changes once control returns to the event loop, or at once when one is asked for.
 class VOCC_EXPORT AbstractMatrixOptions : public QWidget
 {
     Q_OBJECT
@@ -44,7 +49,8 @@ public:
     QAbstractButton *button(int index) const;
     int buttonCount() const;
 
-    // Rebuilds the buttons from the dimensions and the lists.
+    // Lays the buttons out anew for the dimensions (making them anew only when their number
+    // changed) and shows the lists.
     Q_INVOKABLE void updateGeomtries();
 
 signals:
@@ -61,15 +67,13 @@ protected:
 private:
     void rebuildButtons();
     void refreshButtons();
+    void setList(int aspect, const QStringList &list);
     void onButtonClicked(int index);
 
     QGridLayout *m_layout = nullptr;
     QButtonGroup *m_group = nullptr;
     QList<QAbstractButton *> m_buttons;
-    QStringList m_textList;
-    QStringList m_iconList;
-    QStringList m_toolTips;
-    QStringList m_actionList;
+    std::unique_ptr<GridCells> m_cells;
     int m_rows = 2;
     int m_columns = 2;
 };

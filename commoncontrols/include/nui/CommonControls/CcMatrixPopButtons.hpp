@@ -6,16 +6,21 @@
 #include <QStringList>
 #include <QWidget>
 
+#include <memory>
+
 class QGridLayout;
 class QMenu;
 class QToolButton;
 
 namespace VoCc {
 
+class GridCells;
+
 // A grid of row x column tool buttons, each with a pop-up menu. Cell i (row-major) takes
 // entry i of the text, icon, tool-tip and action lists; missing entries read as empty. A
 // cell's menu starts with its action, when it names one; an application adds more entries
-// through menu(i).
+// through menu(i). The buttons take up list changes once control returns to the event loop,
+// or at once when one (or its menu) is asked for.
 class VOCC_EXPORT MatrixPopButtons : public QWidget
 {
     Q_OBJECT
@@ -47,7 +52,8 @@ public:
     QMenu *menu(int index) const;
     int buttonCount() const;
 
-    // Rebuilds the buttons from the dimensions and the lists.
+    // Lays the buttons out anew for the dimensions (making them anew only when their number
+    // changed) and shows the lists.
     Q_INVOKABLE void updateGeomtries();
 
 signals:
@@ -57,13 +63,12 @@ signals:
 private:
     void rebuildButtons();
     void refreshButtons();
+    void setList(int aspect, const QStringList &list);
+    void showAction(QMenu *popup, const QString &action);
 
     QGridLayout *m_layout = nullptr;
     QList<QToolButton *> m_buttons;
-    QStringList m_textList;
-    QStringList m_iconList;
-    QStringList m_toolTips;
-    QStringList m_actionList;
+    std::unique_ptr<GridCells> m_cells;
     int m_rows = 2;
     int m_columns = 2;
 };
