@@ -1,11 +1,15 @@
-// Times "Edit Items" on one of our combo boxes with 10,000 entries (open the editor, rename one
-// entry, OK), then Undo and Redo of that change, against Designer's own "Edit Items..." on a
-// QComboBox with the same entries, in one Designer core that loads the built module. Prints the
+// Times an item edit through our task menus (open the editor, rename one entry, OK), then Undo
+// and Redo of all it pushed, against Designer's own "Edit Items..." on the Qt widget of the same
+// shape, in one Designer core that loads the built module: a combo box of 10,000 entries
+// against a QComboBox, a 99 x 99 matrix of push buttons against a QTableWidget. Prints the
 // medians of several repetitions and their ratios.
 
 #include "benchsupport.h"
 #include "designertestcore.h"
 
+#include <nui/CommonControls/CcMatrixButtons.hpp>
+
+#include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
@@ -19,6 +23,7 @@
 #include <QExtensionManager>
 #include <QListWidget>
 #include <QPushButton>
+#include <QTableWidget>
 #include <QTimer>
 #include <QUndoStack>
 #include <cstdio>
@@ -28,15 +33,23 @@
 
 namespace {
 
-const int itemCount = 10000;
-const int editedRow = 5000;
 const int repetitions = 15;
 
+// One side of a comparison: a form with the edited widget named "edited", the text of the
+// entry that is renamed, and where that entry sits in the editor (a row of its list, or a
+// cell of its table).
 struct Side
 {
     const char *label;
     bool ours;
     QString ui;
+    QString (*entryText)(QWidget *edited);
+    int row;
+    int column;
+};
+
+struct Times
+{
     QList<double> edit, undo, redo;
 };
 
@@ -48,16 +61,81 @@ void check(bool ok, const Side &side, const char *what)
     std::exit(1);
 }
 
-// A form holding a combo box named "combo" of the given class, its entries in the .ui text.
+const int comboEntries = 10000;
+const int comboRow = 5000;
+const int matrixSize = 99;
+const int matrixCell = 50; // row and column
+
+// A combo box of the given class with 10,000 entries in the .ui text.
 QString comboForm(const char *className)
 {
     QString items;
-    for (int i = 0; i < itemCount; ++i)
+    for (int i = 0; i < comboEntries; ++i)
         items += QStringLiteral("<item><property name=\"text\"><string>Item %1</string></property>"
                                 "</item>")
                          .arg(i);
-    return CcTest::formXml(QStringLiteral("  <widget class=\"%1\" name=\"combo\">%2</widget>\n")
+    return CcTest::formXml(QStringLiteral("  <widget class=\"%1\" name=\"edited\">%2</widget>\n")
                                    .arg(QLatin1String(className), items));
+}
+
+QString cellText(int r, int c) { return QStringLiteral("%1,%2").arg(r).arg(c); }
+
+// A 99 x 99 matrix of push buttons, every cell with a text.
+QString matrixForm()
+{
+    QString xml = QStringLiteral("<property name=\"row\"><number>%1</number></property>"
+                                 "<property name=\"column\"><number>%1</number></property>")
+                          .arg(matrixSize);
+    for (int r = 0; r < matrixSize; ++r) {
+        for (int c = 0; c < matrixSize; ++c)
+            xml += QStringLiteral("<item><property name=\"text\"><string>%1</string></property>"
+                                  "</item>")
+                           .arg(cellText(r, c));
+    }
+    return CcTest::formXml(
+            QStringLiteral(
+                    "  <widget class=\"VoCc::MatrixPushButtons\" name=\"edited\">%1</widget>\n")
+                    .arg(xml));
+}
+
+// A 99 x 99 table widget with the same texts.
+QString tableForm()
+{
+    QString xml;
+    for (int i = 0; i < matrixSize; ++i)
+        xml += QStringLiteral("<row/><column/>");
+    for (int r = 0; r < matrixSize; ++r) {
+        for (int c = 0; c < matrixSize; ++c)
+            xml += QStringLiteral("<item row=\"%1\" column=\"%2\"><property name=\"text\">"
+                                  "<string>%3</string></property></item>")
+                           .arg(r)
+                           .arg(c)
+                           .arg(cellText(r, c));
+    }
+    return CcTest::formXml(
+            QStringLiteral("  <widget class=\"QTableWidget\" name=\"edited\">%1</widget>\n")
+                    .arg(xml));
+}
+
+QString comboEntry(QWidget *w)
+{
+    auto *combo = qobject_cast<QComboBox *>(w);
+    return combo && combo->count() == comboEntries ? combo->itemText(comboRow) : QString();
+}
+
+QString matrixEntry(QWidget *w)
+{
+    auto *matrix = qobject_cast<VoCc::AbstractMatrixOptions *>(w);
+    QAbstractButton *button =
+            matrix ? matrix->button(matrixCell * matrixSize + matrixCell) : nullptr;
+    return button ? button->text() : QString();
+}
+
+QString tableEntry(QWidget *w)
+{
+    auto *table = qobject_cast<QTableWidget *>(w);
+    QTableWidgetItem *item = table ? table->item(matrixCell, matrixCell) : nullptr;
+    return item ? item->text() : QString();
 }
 
 // Milliseconds of one run of work, including the layout and paint it causes.
@@ -109,15 +187,15 @@ bool triggerAnswering(QAction *action, const std::function<void(QDialog *)> &act
     return answer->answered;
 }
 
-QAction *editAction(const Side &side, QWidget *combo)
+QAction *editAction(const Side &side, QWidget *edited)
 {
     QExtensionManager *manager = CcTest::designerCore()->extensionManager();
     if (side.ours) {
-        auto *menu = qt_extension<QDesignerTaskMenuExtension *>(manager, combo);
+        auto *menu = qt_extension<QDesignerTaskMenuExtension *>(manager, edited);
         return menu ? menu->preferredEditAction() : nullptr;
     }
     auto *menu = qobject_cast<QDesignerTaskMenuExtension *>(
-            manager->extension(combo, QStringLiteral("QDesignerInternalTaskMenuExtension")));
+            manager->extension(edited, QStringLiteral("QDesignerInternalTaskMenuExtension")));
     const QList<QAction *> actions = menu ? menu->taskActions() : QList<QAction *>();
     for (QAction *action : actions) {
         if (action->text() == QLatin1String("Edit Items..."))
@@ -126,40 +204,88 @@ QAction *editAction(const Side &side, QWidget *combo)
     return nullptr;
 }
 
-// One repetition on a fresh form: Edit Items, rename the edited row in place, OK; Undo; Redo.
-void measure(Side &side)
+// Renames the entry in the editor as a user's in-place edit ends: in the editor's table if it
+// has one, else in its list.
+void renameInEditor(const Side &side, QDialog *dialog, const QString &renamed)
+{
+    if (auto *table = dialog->findChild<QTableWidget *>(QStringLiteral("tableWidget"))) {
+        QTableWidgetItem *item = table->item(side.row, side.column);
+        check(item && table->rowCount() == matrixSize, side, "no table of all cells in the editor");
+        table->setCurrentCell(side.row, side.column);
+        item->setText(renamed);
+        return;
+    }
+    auto *list = dialog->findChild<QListWidget *>(QStringLiteral("listWidget"));
+    check(list && list->count() == comboEntries, side, "no list of all entries in the editor");
+    list->setCurrentRow(side.row);
+    list->item(side.row)->setText(renamed);
+}
+
+// One repetition on a fresh form: the edit entry, rename the entry in place, OK; Undo of all
+// the edit pushed; Redo of it.
+void measure(const Side &side, Times &times)
 {
     QDesignerFormWindowInterface *form = CcTest::createFormWindow(side.ui);
-    auto *combo = form->mainContainer()->findChild<QComboBox *>(QStringLiteral("combo"));
-    check(combo && combo->count() == itemCount, side, "the form has no combo box of all entries");
-    QAction *action = editAction(side, combo);
-    check(action, side, "no edit entry in the combo box's task menu");
+    auto *edited = form->mainContainer()->findChild<QWidget *>(QStringLiteral("edited"));
+    const QString original = edited ? side.entryText(edited) : QString();
+    check(!original.isEmpty(), side, "the form has no widget with all entries");
+    QAction *action = editAction(side, edited);
+    check(action, side, "no edit entry in the widget's task menu");
     QUndoStack *history = form->commandHistory();
-    const int before = history->count();
-    const QString original = combo->itemText(editedRow);
-    const QString renamed = QStringLiteral("Renamed %1").arg(editedRow);
+    const int before = history->index();
+    const QString renamed = QStringLiteral("Renamed");
     QApplication::processEvents();
 
     bool answered = false;
-    side.edit.append(timeIt([&] {
-        answered = triggerAnswering(action, [&](QDialog *dialog) {
-            auto *list = dialog->findChild<QListWidget *>(QStringLiteral("listWidget"));
-            check(list && list->count() == itemCount, side, "no list of all entries in the editor");
-            list->setCurrentRow(editedRow);
-            list->item(editedRow)->setText(renamed);
-        });
+    times.edit.append(timeIt([&] {
+        answered = triggerAnswering(
+                action, [&](QDialog *dialog) { renameInEditor(side, dialog, renamed); });
     }));
     check(answered, side, "the edit entry opened no dialog");
-    check(history->count() == before + 1, side, "OK did not push exactly one command");
-    check(combo->itemText(editedRow) == renamed, side, "OK did not rename the entry");
-    side.undo.append(timeIt([&] { history->undo(); }));
-    check(combo->itemText(editedRow) == original, side, "Undo did not restore the entry");
-    side.redo.append(timeIt([&] { history->redo(); }));
-    check(combo->itemText(editedRow) == renamed, side, "Redo did not rename the entry again");
+    const int after = history->index();
+    check(after > before, side, "OK pushed nothing");
+    check(side.entryText(edited) == renamed, side, "OK did not rename the entry");
+    times.undo.append(timeIt([&] { history->setIndex(before); }));
+    check(side.entryText(edited) == original, side, "Undo did not restore the entry");
+    times.redo.append(timeIt([&] { history->setIndex(after); }));
+    check(side.entryText(edited) == renamed, side, "Redo did not rename the entry again");
 
     CcTest::closeFormWindow(form);
     QApplication::processEvents();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+// Both sides in turn, alternating which goes first so neither always finds the other's
+// leftovers; prints the medians and the ratios.
+void compare(const char *title, const Side &designer, const Side &ours)
+{
+    Times designerTimes, ourTimes;
+    for (int r = 0; r < repetitions; ++r) {
+        if (r % 2)
+            measure(designer, designerTimes);
+        measure(ours, ourTimes);
+        if (!(r % 2))
+            measure(designer, designerTimes);
+    }
+    std::printf("%s, %d repetitions (medians, ms)\n", title, repetitions);
+    const std::pair<const Side *, const Times *> sides[] = {{&designer, &designerTimes},
+                                                            {&ours, &ourTimes}};
+    for (const auto &side : sides) {
+        std::printf("  %-24s edit + OK %8.2f\n", side.first->label,
+                    Bench::median(side.second->edit));
+        std::printf("  %-24s undo      %8.2f\n", side.first->label,
+                    Bench::median(side.second->undo));
+        std::printf("  %-24s redo      %8.2f\n", side.first->label,
+                    Bench::median(side.second->redo));
+    }
+    const struct
+    {
+        const char *step;
+        QList<double> Times::*times;
+    } steps[] = {{"edit + OK", &Times::edit}, {"undo", &Times::undo}, {"redo", &Times::redo}};
+    for (const auto &step : steps)
+        std::printf("ratio %-9s ours / Designer's: %.2f (target <= 1.00)\n", step.step,
+                    Bench::median(ourTimes.*step.times) / Bench::median(designerTimes.*step.times));
 }
 
 } // namespace
@@ -173,29 +299,11 @@ int main(int argc, char **argv)
     // component, which the designer program creates next to its core.
     QDesignerComponents::createTaskMenu(CcTest::designerCore(), &app);
 
-    Side designer {"Designer's QComboBox", false, comboForm("QComboBox"), {}, {}, {}};
-    Side ours {"VoCc::ComboBox", true, comboForm("VoCc::ComboBox"), {}, {}, {}};
-    // Alternating which side goes first, so neither always finds the other's leftovers.
-    for (int r = 0; r < repetitions; ++r) {
-        measure(r % 2 ? designer : ours);
-        measure(r % 2 ? ours : designer);
-    }
-
-    std::printf("item editing, combo box of %d entries, row %d renamed, %d repetitions "
-                "(medians, ms)\n",
-                itemCount, editedRow, repetitions);
-    for (const Side *side : {&designer, &ours}) {
-        std::printf("  %-22s edit + OK %8.2f\n", side->label, Bench::median(side->edit));
-        std::printf("  %-22s undo      %8.2f\n", side->label, Bench::median(side->undo));
-        std::printf("  %-22s redo      %8.2f\n", side->label, Bench::median(side->redo));
-    }
-    const struct
-    {
-        const char *step;
-        QList<double> Side::*times;
-    } steps[] = {{"edit + OK", &Side::edit}, {"undo", &Side::undo}, {"redo", &Side::redo}};
-    for (const auto &step : steps)
-        std::printf("ratio %-9s ours / Designer's: %.2f (target <= 1.00)\n", step.step,
-                    Bench::median(ours.*step.times) / Bench::median(designer.*step.times));
+    compare("item editing, combo box of 10000 entries, entry 5000 renamed",
+            {"Designer's QComboBox", false, comboForm("QComboBox"), comboEntry, comboRow, 0},
+            {"VoCc::ComboBox", true, comboForm("VoCc::ComboBox"), comboEntry, comboRow, 0});
+    compare("matrix editing, 99 x 99 push buttons, cell (50, 50) renamed",
+            {"Designer's QTableWidget", false, tableForm(), tableEntry, matrixCell, matrixCell},
+            {"VoCc::MatrixPushButtons", true, matrixForm(), matrixEntry, matrixCell, matrixCell});
     return 0;
 }
