@@ -28,6 +28,7 @@
 #include <QMetaMethod>
 #include <QRegularExpression>
 #include <QSpinBox>
+#include <QTabWidget>
 #include <QTableWidget>
 #include <QToolButton>
 #include <QUndoStack>
@@ -164,9 +165,19 @@ void listEdit(Driver &dialog)
 
 void matrixOpened(Driver &dialog)
 {
+    // Both matrix dialogs are one form: its name, one tab, spin boxes from 1 to 99.
+    QWidget *window = dialog.table()->window();
+    QCOMPARE(window->objectName(), QStringLiteral("MatrixPushButtonsEditor"));
+    auto *tabs = window->findChild<QTabWidget *>(QStringLiteral("tabWidget"));
+    QVERIFY(tabs && tabs->count() == 1 && tabs->tabText(0) == QLatin1String("Items"));
+    auto *rows = window->findChild<QSpinBox *>(QStringLiteral("rowCounts"));
+    auto *columns = window->findChild<QSpinBox *>(QStringLiteral("colCounts"));
+    QVERIFY(rows && columns);
+    QCOMPARE(rows->minimum(), 1);
+    QCOMPARE(columns->maximum(), 99);
     QCOMPARE(dialog.rows(), QStringList({"a", "b", "c", "d", "e", ""}));
-    QCOMPARE(dialog.table()->window()->findChild<QSpinBox *>("rowCounts")->value(), 2);
-    QCOMPARE(dialog.table()->window()->findChild<QSpinBox *>("colCounts")->value(), 3);
+    QCOMPARE(rows->value(), 2);
+    QCOMPARE(columns->value(), 3);
     QCOMPARE(dialog.table()->currentRow(), 0);
     QCOMPARE(dialog.table()->currentColumn(), 0);
     QCOMPARE(dialog.propertyValue(QStringLiteral("text")), QStringLiteral("a"));
