@@ -138,16 +138,6 @@ QString tableEntry(QWidget *w)
     return item ? item->text() : QString();
 }
 
-// Milliseconds of one run of work, including the layout and paint it causes.
-double timeIt(const std::function<void()> &work)
-{
-    QElapsedTimer timer;
-    timer.start();
-    work();
-    QApplication::processEvents();
-    return timer.nsecsElapsed() / 1e6;
-}
-
 struct Answer
 {
     std::function<void(QDialog *)> act;
@@ -237,7 +227,7 @@ void measure(const Side &side, Times &times)
     QApplication::processEvents();
 
     bool answered = false;
-    times.edit.append(timeIt([&] {
+    times.edit.append(Bench::timeIt([&] {
         answered = triggerAnswering(
                 action, [&](QDialog *dialog) { renameInEditor(side, dialog, renamed); });
     }));
@@ -245,9 +235,9 @@ void measure(const Side &side, Times &times)
     const int after = history->index();
     check(after > before, side, "OK pushed nothing");
     check(side.entryText(edited) == renamed, side, "OK did not rename the entry");
-    times.undo.append(timeIt([&] { history->setIndex(before); }));
+    times.undo.append(Bench::timeIt([&] { history->setIndex(before); }));
     check(side.entryText(edited) == original, side, "Undo did not restore the entry");
-    times.redo.append(timeIt([&] { history->setIndex(after); }));
+    times.redo.append(Bench::timeIt([&] { history->setIndex(after); }));
     check(side.entryText(edited) == renamed, side, "Redo did not rename the entry again");
 
     CcTest::closeFormWindow(form);

@@ -2,6 +2,7 @@
 // filling a bare QListWidget with the same items, both measured in this run. Prints the
 // medians of several repetitions and their ratio.
 
+#include "benchsupport.h"
 #include "designertestcore.h"
 
 #include "designerpropertymanager.h"
@@ -11,12 +12,8 @@
 
 #include <QApplication>
 #include <QDesignerFormWindowInterface>
-#include <QElapsedTimer>
 #include <QListWidget>
-#include <algorithm>
 #include <cstdio>
-#include <functional>
-#include <vector>
 
 using namespace qdesigner_internal;
 
@@ -44,22 +41,6 @@ void fill(QListWidget *list)
     }
 }
 
-double median(std::vector<double> values)
-{
-    std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
-}
-
-// Milliseconds of one run of work, including the layout and paint it causes.
-double timeIt(const std::function<void()> &work)
-{
-    QElapsedTimer timer;
-    timer.start();
-    work();
-    QApplication::processEvents();
-    return timer.nsecsElapsed() / 1e6;
-}
-
 } // namespace
 
 int main(int argc, char **argv)
@@ -71,41 +52,41 @@ int main(int argc, char **argv)
             CcTest::formXml(QStringLiteral("  <widget class=\"QComboBox\" name=\"combo\"/>\n")));
     QWidget *object = form->mainContainer()->findChild<QWidget *>(QStringLiteral("combo"));
 
-    std::vector<double> bare, editorFill, editorSetup, editorSelect, editorTotal;
+    QList<double> bare, editorFill, editorSetup, editorSelect, editorTotal;
     for (int r = 0; r < repetitions; ++r) {
         {
             QListWidget list;
             list.resize(300, 300);
             list.show();
-            bare.push_back(timeIt([&] { fill(&list); }));
+            bare.append(Bench::timeIt([&] { fill(&list); }));
         }
         {
             ItemListEditor editor(form, nullptr);
             editor.setPropertyBrowserVisible(true);
             editor.show();
             QApplication::processEvents();
-            const double f = timeIt([&] { fill(editor.listWidget()); });
-            const double s = timeIt([&] { editor.setupEditor(object, itemProperties); });
-            const double c = timeIt([&] {
+            const double f = Bench::timeIt([&] { fill(editor.listWidget()); });
+            const double s = Bench::timeIt([&] { editor.setupEditor(object, itemProperties); });
+            const double c = Bench::timeIt([&] {
                 for (int row = 0; row < selectedRows; ++row)
                     editor.listWidget()->setCurrentRow(row);
             });
-            editorFill.push_back(f);
-            editorSetup.push_back(s);
-            editorSelect.push_back(c);
-            editorTotal.push_back(f + s + c);
+            editorFill.append(f);
+            editorSetup.append(s);
+            editorSelect.append(c);
+            editorTotal.append(f + s + c);
         }
     }
-    const double baseline = median(bare);
+    const double baseline = Bench::median(bare);
     std::printf("item list editor, %d items, %d repetitions (medians, ms)\n", itemCount,
                 repetitions);
     std::printf("  bare QListWidget fill        %8.2f\n", baseline);
-    std::printf("  editor fill                  %8.2f\n", median(editorFill));
-    std::printf("  editor setupEditor           %8.2f\n", median(editorSetup));
-    std::printf("  editor select %d rows       %8.2f\n", selectedRows, median(editorSelect));
-    std::printf("  editor total                 %8.2f\n", median(editorTotal));
+    std::printf("  editor fill                  %8.2f\n", Bench::median(editorFill));
+    std::printf("  editor setupEditor           %8.2f\n", Bench::median(editorSetup));
+    std::printf("  editor select %d rows       %8.2f\n", selectedRows, Bench::median(editorSelect));
+    std::printf("  editor total                 %8.2f\n", Bench::median(editorTotal));
     std::printf("ratio editor total / bare fill: %.2f (target <= 2.00)\n",
-                median(editorTotal) / baseline);
+                Bench::median(editorTotal) / baseline);
     CcTest::closeFormWindow(form);
     return 0;
 }

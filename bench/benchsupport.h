@@ -1,9 +1,12 @@
 #pragma once
 
+#include <QCoreApplication>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QList>
 #include <QString>
 #include <algorithm>
+#include <functional>
 
 namespace Bench {
 
@@ -14,6 +17,16 @@ inline double median(QList<double> values)
     std::sort(values.begin(), values.end());
     const int n = values.size();
     return n % 2 ? values.at(n / 2) : (values.at(n / 2 - 1) + values.at(n / 2)) / 2;
+}
+
+// Milliseconds of one run of work, including the layout and paint it causes.
+inline double timeIt(const std::function<void()> &work)
+{
+    QElapsedTimer timer;
+    timer.start();
+    work();
+    QCoreApplication::processEvents();
+    return timer.nsecsElapsed() / 1e6;
 }
 
 // The process's peak resident memory so far, in KiB (VmHWM).
