@@ -4,11 +4,13 @@
 // work happen. Shared by every suite that opens dialogs.
 
 #include <QApplication>
+#include <QDialog>
 #include <QElapsedTimer>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QPointer>
 #include <QTimer>
+#include <algorithm>
 #include <functional>
 #include <memory>
 
@@ -55,6 +57,14 @@ bool answerModal(const std::function<void()> &open, const std::function<void(T *
     // Whatever open() did, its dialog is over: a later one is not this call's to answer.
     delete timer.data();
     return *done;
+}
+
+// Dialogs alive, shown or not: what an edit must not leave behind.
+inline int dialogCount()
+{
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    return int(std::count_if(windows.cbegin(), windows.cend(),
+                             [](const QWidget *w) { return qobject_cast<const QDialog *>(w); }));
 }
 
 // Picks a file in a file dialog as a user typing its full path does.

@@ -29,7 +29,13 @@ void typeIntoShownEditor(QWidget *parent, const QString &text)
                               [](const QLineEdit *edit) { return edit->isVisible(); });
     QVERIFY2(shown != edits.cend(), "no editor open");
     (*shown)->selectAll();
-    QTest::keyClicks(*shown, text);
+    for (const QChar c : text) {
+        // QTest spells out ASCII only; other letters come as the text of a key of their own.
+        if (c.unicode() < 128)
+            QTest::keyClick(*shown, c.toLatin1());
+        else
+            QTest::sendKeyEvent(QTest::Click, *shown, Qt::Key_unknown, QString(c), Qt::NoModifier);
+    }
     QTest::keyClick(*shown, Qt::Key_Return);
     settle();
 }

@@ -29,7 +29,7 @@ private slots:
     void init()
     {
         CcTest::settle();
-        m_topLevels = QApplication::topLevelWidgets().size();
+        m_dialogs = dialogCount();
     }
     void cleanup();
 
@@ -40,7 +40,7 @@ private slots:
 
 private:
     CcTest::TestPictures m_pictures;
-    int m_topLevels = 0;
+    int m_dialogs = 0;
 };
 
 void TestItemEditing::initTestCase()
@@ -55,7 +55,7 @@ void TestItemEditing::cleanup()
 {
     // Nothing of an edit outlives it: no dialog, no editor.
     CcTest::settle();
-    QCOMPARE(QApplication::topLevelWidgets().size(), m_topLevels);
+    QCOMPARE(dialogCount(), m_dialogs);
 }
 
 void TestItemEditing::editingThroughTheContextMenu_data()
