@@ -75,7 +75,7 @@ QString entriesOf(QWidget *form)
 
 } // namespace
 
-class TestCcDesignerRoundTrip : public QObject
+class TestDesignerRoundTrip : public QObject
 {
     Q_OBJECT
 
@@ -84,7 +84,7 @@ private slots:
     void exampleFormSurvivesDesigner();
 };
 
-void TestCcDesignerRoundTrip::exampleFormSurvivesDesigner()
+void TestDesignerRoundTrip::exampleFormSurvivesDesigner()
 {
     QFile file(QStringLiteral(CC_EXAMPLE_FORM));
     QVERIFY(file.open(QIODevice::ReadOnly));
@@ -130,5 +130,5 @@ void TestCcDesignerRoundTrip::exampleFormSurvivesDesigner()
     CcTest::closeFormWindow(first);
 }
 
-QTEST_MAIN(TestCcDesignerRoundTrip)
-#include "tst_ccdesignerroundtrip.moc"
+QTEST_MAIN(TestDesignerRoundTrip)
+#include "tst_designerroundtrip.moc"
