@@ -34,7 +34,13 @@ void reapplyPushButtonMatrices(QObject *object)
 } // namespace
 
 WidgetPluginImpl::WidgetPluginImpl(QObject *plugin, const WidgetPluginRow *row)
-    : m_plugin(plugin), m_row(row)
+    : m_plugin(plugin),
+      m_row(row),
+      // What a plug-in follows is what its declaration gave it slots for.
+      m_followsPropertyEditor(row->plugin->indexOfSlot("propertyChanged(QString,QVariant)") >= 0),
+      m_followsResources(row->plugin->indexOfSlot("resourceSetActivated(QtResourceSet*,bool)")
+                         >= 0),
+      m_followsPages(row->plugin->indexOfSlot("currentIndexChanged(int)") >= 0)
 {
     Q_ASSERT(row);
 }
@@ -61,23 +67,21 @@ bool WidgetPluginImpl::isContainer() const { return m_row->container; }
 
 QWidget *WidgetPluginImpl::createWidget(QWidget *parent)
 {
-    const bool followsEditor = m_row->tracking == Tracking::PropertyEditor
-            || m_row->tracking == Tracking::PropertyEditorAndResources;
     // One connection per created widget, on purpose: the slots run once per widget made.
     // clang-format off
-    if (followsEditor && m_core) {
+    if (m_followsPropertyEditor && m_core) {
         m_propertyEditor = m_core->propertyEditor();
         if (m_propertyEditor)
             QObject::connect(m_propertyEditor, SIGNAL(propertyChanged(QString ,QVariant)),
                              m_plugin, SLOT(propertyChanged(QString,QVariant)));
-        if (m_row->tracking == Tracking::PropertyEditorAndResources)
+        if (m_followsResources)
             QObject::connect(m_core->resourceModel(),
                              SIGNAL(resourceSetActivated(QtResourceSet*, bool)),
                              m_plugin, SLOT(resourceSetActivated(QtResourceSet*, bool)));
     }
     // clang-format on
     QWidget *widget = m_row->createWidget(parent);
-    if (m_row->tracking == Tracking::Pages) {
+    if (m_followsPages) {
         QObject::connect(widget, SIGNAL(currentIndexChanged(int)), m_plugin,
                          SLOT(currentIndexChanged(int)));
         QObject::connect(widget, SIGNAL(pageTitleChanged(QString)), m_plugin,
@@ -96,8 +100,7 @@ void WidgetPluginImpl::initialize(QDesignerFormEditorInterface *core)
         m_row->extensions(core);
     if (m_row->taskMenu)
         m_row->taskMenu(core);
-    if (m_row->tracking != Tracking::Nothing && m_row->tracking != Tracking::Pages)
-        m_core = core;
+    m_core = core;
     m_initialized = true;
 }
 

@@ -13,7 +13,8 @@ class QWidget;
 // table row. Each plug-in class derives from QObject and QDesignerCustomWidgetInterface
 // itself, so that its meta-object carries its own class name and casts to the interface by
 // name, and forwards the interface and its slots to one of these. The plug-in passes itself
-// in as the object that signal connections go to.
+// in as the object that signal connections go to; what it follows (the property editor, the
+// resource sets, its page groups) is read from the slots its class declares.
 class WidgetPluginImpl
 {
 public:
@@ -39,6 +40,9 @@ public:
 private:
     QObject *m_plugin;
     const WidgetPluginRow *m_row;
+    const bool m_followsPropertyEditor;
+    const bool m_followsResources;
+    const bool m_followsPages;
     bool m_initialized = false;
     QDesignerFormEditorInterface *m_core = nullptr;
     QDesignerPropertyEditorInterface *m_propertyEditor = nullptr;

@@ -6,15 +6,6 @@ class QObject;
 class QWidget;
 struct QMetaObject;
 
-// How a plug-in keeps the form display current for the widgets it creates.
-enum class Tracking {
-    Nothing,
-    Core, // keeps the Designer core for its editors, connects nothing
-    PropertyEditor, // repaints its edited widget on every property change
-    PropertyEditorAndResources, // also re-applies button matrices when a resource set is activated
-    Pages, // follows the page switches and title changes of its page groups
-};
-
 // The default XML of a widget class: either the standard element with a dynamic "id"
 // property and the given object name, or a complete text of its own.
 struct DefaultXml
@@ -45,7 +36,6 @@ struct WidgetPluginRow
     const char *toolTip; // null: the plug-in answers both description texts with null strings
     DefaultXml domXml;
     QWidget *(*createWidget)(QWidget *parent);
-    Tracking tracking;
     ExtensionRegistration extensions;
     ExtensionRegistration taskMenu;
 };
