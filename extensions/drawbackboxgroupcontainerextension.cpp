@@ -7,7 +7,11 @@
 DrawbackBoxGroupContainerExtension::DrawbackBoxGroupContainerExtension(
         VoCc::DrawbackBoxGroup *widget, QObject *parent)
     : QObject(parent), m_group(widget)
-{ }
+{
+    // The factory that owns the extension lives as long as Designer's core and only forgets
+    // the extension when the group goes; the extension goes with its group instead.
+    connect(widget, &QObject::destroyed, this, [this] { delete this; });
+}
 
 int DrawbackBoxGroupContainerExtension::count() const { return m_group->count(); }
 

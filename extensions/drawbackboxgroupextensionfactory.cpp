@@ -19,6 +19,7 @@ QObject *DrawbackBoxGroupExtensionFactory::createExtension(QObject *object, cons
         return nullptr;
     if (iid != Q_TYPEID(QDesignerContainerExtension))
         return nullptr;
-    // Owned by the factory (Designer passes it as parent), one per group.
+    // Owned by the factory (Designer passes it as parent), one per group; it goes with its
+    // group.
     return new DrawbackBoxGroupContainerExtension(group, parent);
 }

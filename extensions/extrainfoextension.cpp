@@ -4,9 +4,15 @@
 
 #include <nui/CommonControls/CcFormBuilder.hpp>
 
+#include <QWidget>
+
 ExtraInfoExtension::ExtraInfoExtension(QWidget *widget, ExtraInfoExtensionFactory *factory)
     : m_widget(widget), m_factory(factory)
-{ }
+{
+    // Nothing owns the extension: its factory only forgets it when the widget goes, and
+    // drops it from its cache when the extension goes. So it goes with its widget.
+    connect(widget, &QObject::destroyed, this, [this] { delete this; });
+}
 
 QDesignerFormEditorInterface *ExtraInfoExtension::core() const { return m_factory->core(); }
 

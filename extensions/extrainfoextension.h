@@ -6,7 +6,8 @@
 class ExtraInfoExtensionFactory;
 
 // Hands the saving and loading of one widget's extra data to the widget library's form
-// builder. The form-level hooks have nothing to do.
+// builder. The form-level hooks have nothing to do. It has no parent and deletes itself when
+// its widget is destroyed.
 class ExtraInfoExtension : public QObject, public QDesignerExtraInfoExtension
 {
     Q_OBJECT

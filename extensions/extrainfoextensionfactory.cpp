@@ -20,8 +20,8 @@ QObject *ExtraInfoExtensionFactory::createExtension(QObject *object, const QStri
         return nullptr;
     if (!object->isWidgetType())
         return nullptr;
-    // Deliberately without a parent: QExtensionFactory keeps the extension in its per-object
-    // cache and drops it when the widget goes away.
+    // Deliberately without a parent: the extension deletes itself when its widget is
+    // destroyed, and QExtensionFactory then drops it from its per-object cache.
     return new ExtraInfoExtension(static_cast<QWidget *>(object),
                                   const_cast<ExtraInfoExtensionFactory *>(this));
 }

@@ -121,44 +121,42 @@ void edit(const QPointer<QDesignerFormWindowInterface> &form, Widget *widget)
 
 } // namespace
 
-void editItems(const QPointer<QDesignerFormWindowInterface> &form,
-               VoCc::CheckableTextComboBox *widget)
+void editItems(QPointer<QDesignerFormWindowInterface> form, VoCc::CheckableTextComboBox *widget)
 {
     edit<CheckComboEditor, ChangeCheckComboCommand>(form, widget);
 }
 
-void editItems(const QPointer<QDesignerFormWindowInterface> &form, VoCc::ComboBox *widget)
+void editItems(QPointer<QDesignerFormWindowInterface> form, VoCc::ComboBox *widget)
 {
     edit<ComboBoxEditor, ChangeComboBoxCommand>(form, widget);
 }
 
-void editItems(const QPointer<QDesignerFormWindowInterface> &form, VoCc::OptionComboBox *widget)
+void editItems(QPointer<QDesignerFormWindowInterface> form, VoCc::OptionComboBox *widget)
 {
     edit<OptionComboEditor, ChangeOptionComboCommand>(form, widget);
 }
 
-void editItems(const QPointer<QDesignerFormWindowInterface> &form, VoCc::OptionButtons *widget)
+void editItems(QPointer<QDesignerFormWindowInterface> form, VoCc::OptionButtons *widget)
 {
     edit<OptionsEditor, ChangeOptionButtonsCommand>(form, widget);
 }
 
-void editItems(const QPointer<QDesignerFormWindowInterface> &form, VoCc::OptionRadios *widget)
+void editItems(QPointer<QDesignerFormWindowInterface> form, VoCc::OptionRadios *widget)
 {
     edit<OptionsEditor, ChangeOptionRadiosCommand>(form, widget);
 }
 
-void editItems(const QPointer<QDesignerFormWindowInterface> &form, VoCc::DrawbackBoxGroup *widget)
+void editItems(QPointer<QDesignerFormWindowInterface> form, VoCc::DrawbackBoxGroup *widget)
 {
     edit<DrawbackBoxEditor, ChangeDrawbackBoxCommand>(form, widget);
 }
 
-void editItems(const QPointer<QDesignerFormWindowInterface> &form,
-               VoCc::AbstractMatrixOptions *widget)
+void editItems(QPointer<QDesignerFormWindowInterface> form, VoCc::AbstractMatrixOptions *widget)
 {
     edit<MatrixButtonsDialog, ChangeMatrixBtnsCommand>(form, widget);
 }
 
-void editItems(const QPointer<QDesignerFormWindowInterface> &form, VoCc::MatrixPopButtons *widget)
+void editItems(QPointer<QDesignerFormWindowInterface> form, VoCc::MatrixPopButtons *widget)
 {
     edit<MatrixPopButtonsDialog, ChangeMatrixPopBtnsCommand>(form, widget);
 }

@@ -22,13 +22,11 @@ class OptionRadios;
 // stack. A cancel, an unchanged list, or a form or widget gone while the dialog was open,
 // changes nothing. The push-button, radio-button and check-box matrices also get their new
 // row and column counts as property changes of their own.
-void editItems(const QPointer<QDesignerFormWindowInterface> &form,
-               VoCc::CheckableTextComboBox *widget);
-void editItems(const QPointer<QDesignerFormWindowInterface> &form, VoCc::ComboBox *widget);
-void editItems(const QPointer<QDesignerFormWindowInterface> &form, VoCc::OptionComboBox *widget);
-void editItems(const QPointer<QDesignerFormWindowInterface> &form, VoCc::OptionButtons *widget);
-void editItems(const QPointer<QDesignerFormWindowInterface> &form, VoCc::OptionRadios *widget);
-void editItems(const QPointer<QDesignerFormWindowInterface> &form, VoCc::DrawbackBoxGroup *widget);
-void editItems(const QPointer<QDesignerFormWindowInterface> &form,
-               VoCc::AbstractMatrixOptions *widget);
-void editItems(const QPointer<QDesignerFormWindowInterface> &form, VoCc::MatrixPopButtons *widget);
+void editItems(QPointer<QDesignerFormWindowInterface> form, VoCc::CheckableTextComboBox *widget);
+void editItems(QPointer<QDesignerFormWindowInterface> form, VoCc::ComboBox *widget);
+void editItems(QPointer<QDesignerFormWindowInterface> form, VoCc::OptionComboBox *widget);
+void editItems(QPointer<QDesignerFormWindowInterface> form, VoCc::OptionButtons *widget);
+void editItems(QPointer<QDesignerFormWindowInterface> form, VoCc::OptionRadios *widget);
+void editItems(QPointer<QDesignerFormWindowInterface> form, VoCc::DrawbackBoxGroup *widget);
+void editItems(QPointer<QDesignerFormWindowInterface> form, VoCc::AbstractMatrixOptions *widget);
+void editItems(QPointer<QDesignerFormWindowInterface> form, VoCc::MatrixPopButtons *widget);

@@ -41,6 +41,8 @@ QT_END_NAMESPACE
               m_widget(widget)                                                                 \
         {                                                                                      \
             connect(m_editItemsAction, SIGNAL(triggered()), this, SLOT(editItems()));          \
+            /* Goes with its widget; its factory only forgets it then. */                      \
+            connect(widget, &QObject::destroyed, this, &QObject::deleteLater);                 \
         }                                                                                      \
         QAction *preferredEditAction() const override { return m_editItemsAction; }            \
         QList<QAction *> taskActions() const override { return {m_editItemsAction}; }          \
@@ -49,8 +51,10 @@ QT_END_NAMESPACE
         void editItems()                                                                       \
         {                                                                                      \
             m_formWindow = QDesignerFormWindowInterface::findFormWindow(m_widget);             \
-            if (m_formWindow)                                                                  \
-                ::editItems(m_formWindow, m_widget);                                           \
+            /* The edit gets its own guard: the form, and this menu with it, may go while */   \
+            /* the editor runs. */                                                             \
+            if (const QPointer<QDesignerFormWindowInterface> form = m_formWindow)              \
+                ::editItems(form, m_widget);                                                   \
         }                                                                                      \
                                                                                                \
     private:                                                                                   \
