@@ -142,28 +142,6 @@ void TestItemEditing::editingThroughTheContextMenu()
     QCOMPARE(family.shown(widget), family.changeUndone);
     change->redo();
     QCOMPARE(form->contents(), after);
-    if (!family.list)
-        return;
-
-    // Deleting every entry leaves the widget as a new one is; its editor then starts empty.
-    QVERIFY(edit(widget, [](Driver &dialog) {
-        while (dialog.list()->count())
-            dialog.click("deleteListItemButton");
-    }));
-    QCOMPARE(family.shown(widget), QStringList());
-    QDesignerFormWindowInterface *empty = CcTest::createFormWindow(familyForm(family, QString()));
-    const QString emptyUi = comparable(empty->contents());
-    CcTest::closeFormWindow(empty);
-    QCOMPARE(comparable(form->contents()), emptyUi);
-    QVERIFY(edit(widget, [](Driver &dialog) {
-        QCOMPARE(dialog.rows(), QStringList());
-        QVERIFY(dialog.propertyNames().isEmpty());
-        dialog.addRow(QStringLiteral("Only"));
-    }));
-    QCOMPARE(family.shown(widget), QStringList({"Only"}));
-    history->undo();
-    history->undo();
-    QCOMPARE(comparable(form->contents()), comparable(after));
 }
 
 void TestItemEditing::pageGroupKeepsItsPageObjects()
