@@ -11,15 +11,10 @@
 namespace VoCc {
 
 AbstractMatrixOptions::AbstractMatrixOptions(QWidget *parent)
-    : QWidget(parent),
-      m_layout(new QGridLayout(this)),
-      m_group(new QButtonGroup(this)),
-      m_cells(new GridCells)
+    : QWidget(parent), m_layout(new QGridLayout(this)), m_cells(new GridCells)
 {
     m_layout->setContentsMargins(0, 0, 0, 0);
     m_layout->setSpacing(2);
-    m_group->setExclusive(false);
-    connect(m_group, &QButtonGroup::idClicked, this, &AbstractMatrixOptions::onButtonClicked);
     // The buttons are made on first use of the grid: subclasses choose their kind, which is
     // not known while this constructor runs.
 }
@@ -30,7 +25,7 @@ int AbstractMatrixOptions::row() const { return m_rows; }
 
 void AbstractMatrixOptions::setRow(int rows)
 {
-    rows = qMax(0, rows);
+    rows = gridDimension(this, "row", rows);
     if (rows == m_rows && !m_buttons.isEmpty())
         return;
     m_rows = rows;
@@ -41,7 +36,7 @@ int AbstractMatrixOptions::column() const { return m_columns; }
 
 void AbstractMatrixOptions::setColumn(int columns)
 {
-    columns = qMax(0, columns);
+    columns = gridDimension(this, "column", columns);
     if (columns == m_columns && !m_buttons.isEmpty())
         return;
     m_columns = columns;
@@ -109,9 +104,13 @@ bool AbstractMatrixOptions::isExclusive() const { return false; }
 
 void AbstractMatrixOptions::rebuildButtons()
 {
+    // The group goes as a whole: buttons leaving it one by one would each search its list.
+    delete m_group;
+    m_group = new QButtonGroup(this);
+    m_group->setExclusive(isExclusive());
+    connect(m_group, &QButtonGroup::idClicked, this, &AbstractMatrixOptions::onButtonClicked);
     qDeleteAll(m_buttons);
     m_buttons.clear();
-    m_group->setExclusive(isExclusive());
     for (int i = 0; i < m_rows * m_columns; ++i) {
         QAbstractButton *cell = createButton();
         m_group->addButton(cell, i);
@@ -133,7 +132,7 @@ void AbstractMatrixOptions::refreshButtons()
         QAbstractButton *cell = m_buttons.at(i);
         switch (aspect) {
         case GridCells::Text:
-            cell->setText(entry);
+            cell->setText(EntryLists::shownText(entry));
             break;
         case GridCells::Icon:
             cell->setIcon(EntryLists::iconFromPath(entry));

@@ -8,6 +8,7 @@
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QMouseEvent>
+#include <QSet>
 #include <QSignalBlocker>
 #include <QStandardItemModel>
 
@@ -85,7 +86,7 @@ QStringList CheckableTextComboBox::checkedTexts() const
     QStringList texts;
     for (int i = 0; i < m_model->rowCount(); ++i) {
         if (isChecked(i))
-            texts.append(m_model->item(i)->text());
+            texts.append(m_itemTextList.value(i));
     }
     return texts;
 }
@@ -93,9 +94,10 @@ QStringList CheckableTextComboBox::checkedTexts() const
 void CheckableTextComboBox::setCheckedTexts(const QStringList &texts)
 {
     m_checkedTexts = texts;
+    const QSet<QString> checked(texts.cbegin(), texts.cend());
     m_updating = true;
     for (int i = 0; i < m_model->rowCount(); ++i)
-        setChecked(i, texts.contains(m_model->item(i)->text()));
+        setChecked(i, checked.contains(m_itemTextList.value(i)));
     m_updating = false;
     updateSummary();
     emit checkedTextsChanged(checkedTexts());
@@ -120,23 +122,39 @@ bool CheckableTextComboBox::eventFilter(QObject *watched, QEvent *event)
 
 void CheckableTextComboBox::rebuildItems()
 {
+    // All entries go in at once: the combo box then takes note of the new rows once, not once
+    // per entry.
+    const QSet<QString> checked(m_checkedTexts.cbegin(), m_checkedTexts.cend());
+    QList<QStandardItem *> items;
+    items.reserve(m_itemTextList.size());
+    for (int i = 0; i < m_itemTextList.size(); ++i) {
+        const QString &text = m_itemTextList.at(i);
+        auto *item = new QStandardItem(EntryLists::shownText(text));
+        item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsUserCheckable);
+        item->setCheckState(checked.contains(text) ? Qt::Checked : Qt::Unchecked);
+        const QString toolTip = EntryLists::at(m_toolTips, i);
+        if (!toolTip.isEmpty())
+            item->setToolTip(toolTip);
+        items.append(item);
+    }
     m_updating = true;
     m_model->clear();
-    for (const QString &text : qAsConst(m_itemTextList)) {
-        auto *item = new QStandardItem(text);
-        item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsUserCheckable);
-        item->setCheckState(m_checkedTexts.contains(text) ? Qt::Checked : Qt::Unchecked);
-        m_model->appendRow(item);
-    }
+    m_model->invisibleRootItem()->appendRows(items);
     m_updating = false;
-    applyToolTips();
     updateSummary();
 }
 
 void CheckableTextComboBox::applyToolTips()
 {
-    for (int i = 0; i < m_model->rowCount(); ++i)
-        m_model->item(i)->setToolTip(EntryLists::at(m_toolTips, i));
+    // A tool tip is no change of the checked entries: the summary stays as it is.
+    m_updating = true;
+    for (int i = 0; i < m_model->rowCount(); ++i) {
+        QStandardItem *item = m_model->item(i);
+        const QString toolTip = EntryLists::at(m_toolTips, i);
+        if (item->toolTip() != toolTip)
+            item->setToolTip(toolTip);
+    }
+    m_updating = false;
 }
 
 void CheckableTextComboBox::updateSummary()
@@ -147,7 +165,8 @@ void CheckableTextComboBox::updateSummary()
         const QSignalBlocker blocker(m_comboBox);
         m_comboBox->setCurrentIndex(-1);
     }
-    m_comboBox->lineEdit()->setText(checkedTexts().join(QStringLiteral(", ")));
+    m_comboBox->lineEdit()->setText(
+            EntryLists::shownText(checkedTexts().join(QStringLiteral(", "))));
     m_comboBox->lineEdit()->setCursorPosition(0);
 }
 

@@ -1,5 +1,7 @@
 #include "nui/CommonControls/CcDrawbackBox.hpp"
 
+#include "ccentrylists.h"
+
 #include <QEvent>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -7,8 +9,15 @@
 namespace VoCc {
 
 DrawbackBox::DrawbackBox(QWidget *parent)
-    : QWidget(parent), m_titleBar(new QToolButton(this)), m_layout(new QVBoxLayout(this))
+    : QWidget(parent), m_titleBar(new QToolButton(this)), m_layout(new QVBoxLayout)
 {
+    // A layout asks its widget to lay it out by posting it an event when it is first changed,
+    // and Qt looks for an earlier such event to merge it with among all events waiting in the
+    // application: a form of many pages, loaded without the event loop running in between,
+    // took time growing with the square of their number. Changed before it is the box's, the
+    // layout asks nothing; it is laid out when the box is shown, and asks as usual from then.
+    m_layout->invalidate();
+    setLayout(m_layout);
     m_layout->setContentsMargins(0, 0, 0, 0);
     m_layout->setSpacing(0);
     m_titleBar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
@@ -92,7 +101,7 @@ bool DrawbackBox::eventFilter(QObject *watched, QEvent *event)
 
 void DrawbackBox::updateTitleBar()
 {
-    m_titleBar->setText(m_title);
+    m_titleBar->setText(EntryLists::shownText(m_title));
     m_titleBar->setArrowType(m_expanded ? Qt::DownArrow : Qt::RightArrow);
 }
 

@@ -1,5 +1,6 @@
 #include "nui/CommonControls/CcDrawbackBoxGroup.hpp"
 
+#include <QSet>
 #include <QVBoxLayout>
 
 namespace VoCc {
@@ -33,7 +34,9 @@ int DrawbackBoxGroup::indexOf(QWidget *page) const
 {
     if (!page)
         return -1;
-    for (int i = 0; i < m_boxes.size(); ++i) {
+    // From the back: the page asked about most is the one added last (loaders add a page
+    // they made in the group once more).
+    for (int i = m_boxes.size() - 1; i >= 0; --i) {
         if (m_boxes.at(i)->widget() == page)
             return i;
     }
@@ -45,28 +48,38 @@ void DrawbackBoxGroup::addPage(QWidget *page) { insertPage(count(), page); }
 void DrawbackBoxGroup::insertPage(int index, QWidget *page)
 {
     // A page already in the group stays where it is: form loaders may hand a page over
-    // through more than one route.
-    if (!page || indexOf(page) >= 0)
+    // through more than one route. Only a page in a box of the group can be one.
+    if (!page)
+        return;
+    const QWidget *holder = page->parentWidget();
+    if (holder && holder->parentWidget() == this && indexOf(page) >= 0)
         return;
     if (index < 0 || index > count())
         index = count();
+
+    const int previous = m_currentIndex;
+    // The current page stays current, at its index after the insertion.
+    const int shifted = previous >= index ? previous + 1 : previous;
+    if (m_pendingIndex >= 0 && m_pendingIndex <= count()) {
+        m_currentIndex = m_pendingIndex;
+        m_pendingIndex = -1;
+    } else {
+        m_currentIndex = previous < 0 ? 0 : shifted;
+    }
+
     auto *pageBox = new DrawbackBox(this);
+    // Collapsed before the page goes in, so that a page that is not current is hidden at once.
+    pageBox->setExpanded(false);
     pageBox->setWidget(page);
     connect(pageBox, &DrawbackBox::titleClicked, this, &DrawbackBoxGroup::onBoxTitleClicked);
     m_boxes.insert(index, pageBox);
-    placeBoxes();
-
-    const int previous = m_currentIndex;
-    if (m_pendingIndex >= 0 && m_pendingIndex < count()) {
-        m_currentIndex = m_pendingIndex;
-        m_pendingIndex = -1;
-    } else if (m_currentIndex < 0) {
-        m_currentIndex = 0;
-    } else if (index <= m_currentIndex) {
-        ++m_currentIndex; // the current page stays current
-    }
-    updateBoxes();
-    pageBox->show();
+    m_layout->insertWidget(index, pageBox);
+    showCurrent(shifted);
+    // A new box shows with the group. Shown on its own while the group is hidden (a loader
+    // filling it), its layout would be laid out at once and ask to be laid out anew at each
+    // later change, a request Qt files among all waiting events (see DrawbackBox).
+    if (isVisible())
+        pageBox->show();
     // Also when a page inserted in front shifts the current one: the index is what listeners
     // hold on to.
     if (previous != m_currentIndex)
@@ -115,19 +128,24 @@ int DrawbackBoxGroup::replaceBoxes(const QList<DrawbackBox *> &boxes)
 {
     DrawbackBox *current = box(m_currentIndex);
     QList<DrawbackBox *> order;
+    QSet<DrawbackBox *> kept;
     for (DrawbackBox *pageBox : boxes) {
-        if (pageBox && !order.contains(pageBox))
+        if (pageBox && !kept.contains(pageBox)) {
             order.append(pageBox);
+            kept.insert(pageBox);
+        }
     }
+    QSet<DrawbackBox *> before;
     for (DrawbackBox *pageBox : qAsConst(m_boxes)) {
-        if (!order.contains(pageBox)) {
+        before.insert(pageBox);
+        if (!kept.contains(pageBox)) {
             m_layout->removeWidget(pageBox);
             pageBox->hide();
             disconnect(pageBox, nullptr, this, nullptr);
         }
     }
     for (DrawbackBox *pageBox : qAsConst(order)) {
-        if (!m_boxes.contains(pageBox)) {
+        if (!before.contains(pageBox)) {
             pageBox->setParent(this);
             connect(pageBox, &DrawbackBox::titleClicked, this,
                     &DrawbackBoxGroup::onBoxTitleClicked);
@@ -159,8 +177,9 @@ void DrawbackBoxGroup::setCurrentIndex(int index)
     m_pendingIndex = -1;
     if (index == m_currentIndex)
         return;
+    const int previous = m_currentIndex;
     m_currentIndex = index;
-    updateBoxes();
+    showCurrent(previous);
     emit currentIndexChanged(index);
 }
 
@@ -177,6 +196,22 @@ void DrawbackBoxGroup::updateBoxes()
     m_layout->setStretch(m_layout->count() - 1, m_currentIndex < 0 ? 1 : 0);
     for (int i = 0; i < m_boxes.size(); ++i)
         m_layout->setStretch(i, i == m_currentIndex ? 1 : 0);
+}
+
+void DrawbackBoxGroup::showCurrent(int previous)
+{
+    // Only the box that was current and the one that is now change.
+    if (previous != m_currentIndex) {
+        if (DrawbackBox *pageBox = box(previous)) {
+            pageBox->setExpanded(false);
+            m_layout->setStretch(previous, 0);
+        }
+    }
+    if (DrawbackBox *pageBox = box(m_currentIndex)) {
+        pageBox->setExpanded(true);
+        m_layout->setStretch(m_currentIndex, 1);
+    }
+    m_layout->setStretch(m_boxes.size(), m_currentIndex < 0 ? 1 : 0);
 }
 
 void DrawbackBoxGroup::placeBoxes()

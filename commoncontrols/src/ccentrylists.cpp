@@ -18,5 +18,12 @@ QIcon iconFromPath(const QString &path)
     return QIcon(pixmap);
 }
 
+QString shownText(const QString &text)
+{
+    if (text.size() <= maximumShownLength)
+        return text;
+    return text.left(maximumShownLength - 1) + QChar(0x2026);
+}
+
 } // namespace EntryLists
 } // namespace VoCc

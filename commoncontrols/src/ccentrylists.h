@@ -16,5 +16,14 @@ inline QString at(const QStringList &list, int index)
 // The icon of a pixmap path; an empty or unreadable path gives a null icon without a warning.
 QIcon iconFromPath(const QString &path);
 
+// The most characters of an entry's text that a widget shows. Qt measures and shapes a text
+// whole, and its styles draw a widget's background into a picture of the widget's size, so an
+// entry of a few million characters would take seconds and gigabytes to show.
+const int maximumShownLength = 1000;
+
+// What a widget shows of an entry's text: the text, or its first characters up to the
+// maximum and an ellipsis. The entry itself keeps its whole text.
+QString shownText(const QString &text);
+
 } // namespace EntryLists
 } // namespace VoCc

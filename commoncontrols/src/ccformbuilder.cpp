@@ -1,6 +1,7 @@
 #include "nui/CommonControls/CcFormBuilder.hpp"
 
 #include "ccdomentries.h"
+#include "ccentrylists.h"
 #include "nui/CommonControls/CcColorButton.hpp"
 #include "nui/CommonControls/CcColorPanel.hpp"
 #include "nui/CommonControls/CcColorPicker.hpp"
@@ -44,7 +45,10 @@
 
 #include <QtDesigner/private/ui4_p.h>
 
+#include <QBuffer>
+#include <QCoreApplication>
 #include <QMetaEnum>
+#include <QXmlStreamReader>
 
 namespace VoCc {
 
@@ -223,6 +227,117 @@ QStringList stringListProperty(const DomWidget *domWidget, const QString &name, 
     return *found ? property->elementStringList()->elementString() : QStringList();
 }
 
+// How deep elements may nest in a form this builder loads. Qt's .ui reader and form builder
+// recurse once per element level, and the widgets they make once per widget level when they
+// are shown, painted and deleted, each level also costing time in proportion to its depth:
+// far below what would exhaust a thread's stack or take seconds, and far above what a form
+// written in Designer uses (a widget in a layout takes three levels).
+const int maximumNesting = 512;
+
+// How many widgets one widget of a form may hold side by side. Qt paints the children of a
+// widget that overlap what it paints with one level of recursion each.
+const int maximumChildWidgets = 10000;
+
+// Containers that show one of their pages at a time: their pages are not painted side by side.
+bool holdsPages(const QStringRef &className)
+{
+    return className == QLatin1String("VoCc::DrawbackBoxGroup")
+            || className == QLatin1String("QStackedWidget")
+            || className == QLatin1String("QTabWidget") || className == QLatin1String("QToolBox");
+}
+
+QString tr(const char *text) { return QCoreApplication::translate("VoCc::FormBuilder", text); }
+
+// Line and column (counted in bytes from 1) of a position in the document.
+QString positionText(const QByteArray &contents, int offset)
+{
+    const int line = contents.left(offset).count('\n') + 1;
+    const int column = offset - contents.lastIndexOf('\n', offset - 1);
+    return tr("line %1, column %2").arg(line).arg(column);
+}
+
+// What keeps the document from being handed to Qt's reader, or an empty text: elements nested
+// deeper, or widgets side by side in greater numbers, than Qt can manage, or a NUL byte in an
+// 8-bit encoded document (which Qt reports as an unexpected empty character). Other errors
+// are left to Qt's reader, which names them well.
+QString documentProblem(const QByteArray &contents)
+{
+    struct WidgetElement
+    {
+        bool holdsPages;
+        int children;
+    };
+    // The widget elements enclosing the current element; a widget in a layout counts as a
+    // child of the widget holding the layout.
+    QVector<WidgetElement> widgets;
+    QXmlStreamReader reader(contents);
+    int depth = 0;
+    const QLatin1String widgetTag("widget");
+    while (!reader.atEnd()) {
+        switch (reader.readNext()) {
+        case QXmlStreamReader::StartElement:
+            if (++depth > maximumNesting) {
+                return tr("line %1: elements nested more than %2 levels deep, more than a form "
+                          "may have")
+                        .arg(reader.lineNumber())
+                        .arg(maximumNesting);
+            }
+            if (reader.name() == widgetTag) {
+                if (!widgets.isEmpty() && !widgets.last().holdsPages
+                    && ++widgets.last().children > maximumChildWidgets) {
+                    return tr("line %1: more than %2 widgets side by side in one widget, more "
+                              "than a form may have")
+                            .arg(reader.lineNumber())
+                            .arg(maximumChildWidgets);
+                }
+                widgets.append({holdsPages(reader.attributes().value(QLatin1String("class"))), 0});
+            }
+            break;
+        case QXmlStreamReader::EndElement:
+            --depth;
+            if (reader.name() == widgetTag && !widgets.isEmpty())
+                widgets.removeLast();
+            break;
+        default:
+            break;
+        }
+    }
+    // UTF-16 and UTF-32 documents have NUL bytes in their first characters already.
+    const int nul = contents.indexOf('\0');
+    if (reader.hasError() && nul >= 4 && !contents.left(4).contains('\0'))
+        return tr("%1: a NUL byte, which a form may not contain").arg(positionText(contents, nul));
+    return QString();
+}
+
+// A combo box shows its items' own texts, and Qt measures every one of them whole: texts
+// beyond what any widget of the library shows are cut before the items are made, with one
+// warning for the widget.
+void cutLongItemTexts(DomWidget *domWidget)
+{
+    const QString textName = fieldName(Text);
+    int cut = 0;
+    int longest = 0;
+    const QVector<DomItem *> items = domWidget->elementItem();
+    for (DomItem *item : items) {
+        const QList<DomProperty *> properties = item->elementProperty();
+        for (DomProperty *property : properties) {
+            DomString *string =
+                    property->attributeName() == textName ? property->elementString() : nullptr;
+            if (string && string->text().size() > EntryLists::maximumShownLength) {
+                longest = qMax(longest, string->text().size());
+                string->setText(EntryLists::shownText(string->text()));
+                ++cut;
+            }
+        }
+    }
+    if (cut > 0) {
+        qWarning("%s \"%s\": property \"text\" of %d item(s) has up to %d characters, more "
+                 "than the %d a widget shows; cut to %d",
+                 qPrintable(domWidget->attributeClass()), qPrintable(domWidget->attributeName()),
+                 cut, longest, EntryLists::maximumShownLength, EntryLists::maximumShownLength);
+    }
+}
+
 } // namespace
 
 FormBuilder::FormBuilder()
@@ -237,7 +352,24 @@ FormBuilder::~FormBuilder() = default;
 QWidget *FormBuilder::load(QIODevice *device, QWidget *parentWidget)
 {
     m_unknownClassNames.clear();
-    return QFormBuilder::load(device, parentWidget);
+    m_errorString.clear();
+    // The document is looked over before Qt sees it: its reader and builder recurse once per
+    // element level and its painting once per widget side by side, and a document deep or
+    // wide enough would overflow the stack.
+    QByteArray contents = device->readAll();
+    m_errorString = documentProblem(contents);
+    if (!m_errorString.isEmpty()) {
+        qWarning("VoCc::FormBuilder: cannot load the form: %s", qPrintable(m_errorString));
+        return nullptr;
+    }
+    QBuffer buffer(&contents);
+    buffer.open(QIODevice::ReadOnly);
+    return QFormBuilder::load(&buffer, parentWidget);
+}
+
+QString FormBuilder::errorString() const
+{
+    return m_errorString.isEmpty() ? QFormBuilder::errorString() : m_errorString;
 }
 
 QStringList FormBuilder::widgetClassNames()
@@ -259,24 +391,37 @@ QStringList FormBuilder::unknownClassNames() const { return m_unknownClassNames;
 QWidget *FormBuilder::createWidget(const QString &widgetName, QWidget *parentWidget,
                                    const QString &name)
 {
-    if (QWidget *widget = createCommonControl(widgetName, parentWidget)) {
+    // A page is made on its own and goes into its group while it is still empty, as Qt's
+    // builder does with the pages of its containers. Made inside the group, it would leave
+    // the group's layout for its box, which searches that layout; moved there once its
+    // contents exist (when the loader adds it), it would take them along, at every level of
+    // groups nested in pages.
+    auto *group = qobject_cast<DrawbackBoxGroup *>(parentWidget);
+    if (group)
+        parentWidget = nullptr;
+    QWidget *widget = createCommonControl(widgetName, parentWidget);
+    if (widget) {
         widget->setObjectName(name);
-        return widget;
+    } else {
+        widget = QFormBuilder::createWidget(widgetName, parentWidget, name);
+        // For a class it does not know, the loader falls back on the declared base class;
+        // "Line" is the one name it legitimately maps to another class.
+        if (!widget
+            || (widget->metaObject()->className() != widgetName
+                && widgetName != QLatin1String("Line"))) {
+            if (!m_unknownClassNames.contains(widgetName))
+                m_unknownClassNames.append(widgetName);
+        }
     }
-    QWidget *widget = QFormBuilder::createWidget(widgetName, parentWidget, name);
-    // For a class it does not know, the loader falls back on the declared base class; "Line"
-    // is the one name it legitimately maps to another class.
-    if (!widget
-        || (widget->metaObject()->className() != widgetName
-            && widgetName != QLatin1String("Line"))) {
-        if (!m_unknownClassNames.contains(widgetName))
-            m_unknownClassNames.append(widgetName);
-    }
+    if (group && widget)
+        group->addPage(widget);
     return widget;
 }
 
 QWidget *FormBuilder::create(DomWidget *domWidget, QWidget *parentWidget)
 {
+    if (domWidget->attributeClass() == QLatin1String("VoCc::ComboBox"))
+        cutLongItemTexts(domWidget);
     QWidget *widget = QFormBuilder::create(domWidget, parentWidget);
     if (widget)
         loadExtraInfo(domWidget, widget, nullptr);
@@ -286,7 +431,7 @@ QWidget *FormBuilder::create(DomWidget *domWidget, QWidget *parentWidget)
 bool FormBuilder::addItem(DomWidget *domWidget, QWidget *widget, QWidget *parentWidget)
 {
     if (auto *group = qobject_cast<DrawbackBoxGroup *>(parentWidget)) {
-        group->addPage(widget);
+        group->addPage(widget); // a page made here is in the group already; nothing happens
         return true;
     }
     return QFormBuilder::addItem(domWidget, widget, parentWidget);

@@ -4,7 +4,21 @@
 
 #include <QStringList>
 
+QT_BEGIN_NAMESPACE
+class QWidget;
+QT_END_NAMESPACE
+
 namespace VoCc {
+
+// The most rows, and the most columns, a grid of buttons has: the matrix editors offer 1 to
+// 99. A form asking for more was not written by them, and would have the grid make its
+// buttons by the million.
+const int maximumGridDimension = 99;
+
+// The row or column count a grid takes for the one asked for: a negative count is none, a
+// count beyond the maximum is limited to it, with a warning that names the widget and the
+// property.
+int gridDimension(const QWidget *grid, const char *property, int requested);
 
 // The four lists of a grid of buttons (texts, icon paths, tool tips, actions), and what the
 // buttons show of them. Setting a list only records it; show() then updates the cells whose

@@ -23,7 +23,7 @@ int MatrixPopButtons::row() const { return m_rows; }
 
 void MatrixPopButtons::setRow(int rows)
 {
-    rows = qMax(0, rows);
+    rows = gridDimension(this, "row", rows);
     if (rows == m_rows)
         return;
     m_rows = rows;
@@ -34,7 +34,7 @@ int MatrixPopButtons::column() const { return m_columns; }
 
 void MatrixPopButtons::setColumn(int columns)
 {
-    columns = qMax(0, columns);
+    columns = gridDimension(this, "column", columns);
     if (columns == m_columns)
         return;
     m_columns = columns;
@@ -126,7 +126,7 @@ void MatrixPopButtons::refreshButtons()
         QToolButton *cell = m_buttons.at(i);
         switch (aspect) {
         case GridCells::Text:
-            cell->setText(entry);
+            cell->setText(EntryLists::shownText(entry));
             break;
         case GridCells::Icon:
             cell->setIcon(EntryLists::iconFromPath(entry));

@@ -11,8 +11,8 @@ OptionButtons::OptionButtons(QWidget *parent) : AbstractOptions(parent)
 {
     auto *layout = new QBoxLayout(QBoxLayout::LeftToRight, this);
     layout->setContentsMargins(0, 0, 0, 0);
-    m_row = new ButtonRow(this, layout, [] {
-        auto *button = new QToolButton;
+    m_row = new ButtonRow(this, layout, [](AbstractOptions *owner, int index) -> QAbstractButton * {
+        auto *button = new EntryButton<QToolButton>(owner, index);
         button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
         button->setAutoRaise(false);
         return button;

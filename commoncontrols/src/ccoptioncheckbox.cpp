@@ -37,7 +37,7 @@ void OptionCheckBox::rebuildEntries()
 {
     // The box shows the entry in force: the first when checked, the second otherwise.
     const int entry = m_checkBox->isChecked() ? CheckedEntry : UncheckedEntry;
-    m_checkBox->setText(textAt(entry));
+    m_checkBox->setText(EntryLists::shownText(textAt(entry)));
     m_checkBox->setIcon(EntryLists::iconFromPath(iconAt(entry)));
     m_checkBox->setToolTip(toolTipAt(entry));
 }

@@ -11,9 +11,8 @@ OptionRadios::OptionRadios(QWidget *parent) : AbstractOptions(parent)
 {
     auto *layout = new QBoxLayout(QBoxLayout::TopToBottom, this);
     layout->setContentsMargins(0, 0, 0, 0);
-    m_row = new ButtonRow(this, layout, [] {
-        auto *button = new QRadioButton;
-        return button;
+    m_row = new ButtonRow(this, layout, [](AbstractOptions *owner, int index) -> QAbstractButton * {
+        return new EntryButton<QRadioButton>(owner, index);
     });
 }
 

@@ -22,3 +22,14 @@ expect_failure(2 "cannot open .*no-such-form.ui" "${DATA}/no-such-form.ui" "${OU
 expect_failure(3 "malformed.ui is not a form: line [0-9]+, column [0-9]+" "${DATA}/malformed.ui" "${OUTPUT}")
 expect_failure(3 "root element is <html>, not <ui>" "${DATA}/notaform.xml" "${OUTPUT}")
 expect_failure(4 "unknown widget classes: VoCc::Gauge" "${DATA}/unknownclass.ui" "${OUTPUT}")
+expect_failure(3 "nul.ui is not a form: line 7, column 16: a NUL byte" "${DATA}/nul.ui" "${OUTPUT}")
+expect_failure(3 "truncated.ui is not a form: line 12, column [0-9]+: Premature end of document"
+    "${DATA}/truncated.ui" "${OUTPUT}")
+
+# Panes nested 20,000 deep, well-formed: refused before anything recurses that deep.
+get_filename_component(folder "${OUTPUT}" DIRECTORY)
+string(REPEAT "<widget class=\"VoCc::Pane\" name=\"pane\">" 20000 opening)
+string(REPEAT "</widget>" 20000 closing)
+file(WRITE "${folder}/deep.ui" "<ui version=\"4.0\">\n${opening}${closing}\n</ui>\n")
+expect_failure(3 "cannot load .*deep.ui: line 2: elements nested more than [0-9]+ levels deep"
+    "${folder}/deep.ui" "${OUTPUT}")

@@ -18,6 +18,7 @@
 #include <QComboBox>
 #include <QFile>
 #include <QMenu>
+#include <QRegularExpression>
 #include <QScopedPointer>
 #include <QTest>
 #include <QToolButton>
@@ -95,6 +96,11 @@ private slots:
     void pageGroupRoundTrip();
     void savingTwiceAddsNothing();
     void badAndPartialDataLoadQuietly();
+    void refusesWhatQtCannotManage_data();
+    void refusesWhatQtCannotManage();
+    void limitsGridsNoEditorMakes_data();
+    void limitsGridsNoEditorMakes();
+    void showsLongTextsCut();
     void exampleFormLoads();
 };
 
@@ -408,6 +414,122 @@ void TestCcFormBuilder::badAndPartialDataLoadQuietly()
     auto *check = form->findChild<CheckableTextComboBox *>();
     QCOMPARE(check->itemTextList(), QStringList {QString()});
     QCOMPARE(check->toolTips(), QStringList {QStringLiteral("only a tip")});
+}
+
+void TestCcFormBuilder::refusesWhatQtCannotManage_data()
+{
+    // The <ui> element is the first level.
+    const auto nested = [](int widgets) {
+        return "<ui version=\"4.0\">"
+                + QByteArray("<widget class=\"QWidget\" name=\"w\">").repeated(widgets)
+                + QByteArray("</widget>").repeated(widgets) + "</ui>";
+    };
+    const auto sideBySide = [](const char *className, int widgets) {
+        return "<ui version=\"4.0\"><widget class=\"QWidget\" name=\"Form\"><widget class=\""
+                + QByteArray(className) + "\" name=\"holder\">"
+                + QByteArray("<widget class=\"QWidget\" name=\"w\"/>").repeated(widgets)
+                + "</widget></widget></ui>";
+    };
+    QTest::addColumn<QByteArray>("document");
+    QTest::addColumn<QString>("problem"); // empty: the form loads
+    QTest::newRow("nested 512 deep") << nested(511) << QString();
+    QTest::newRow("nested 513 deep")
+            << nested(512) << QStringLiteral("nested more than 512 levels deep");
+    QTest::newRow("10,001 widgets side by side")
+            << sideBySide("QWidget", 10001)
+            << QStringLiteral("more than 10000 widgets side by side");
+    QTest::newRow("10,001 pages") << sideBySide("VoCc::DrawbackBoxGroup", 10001) << QString();
+    QTest::newRow("NUL byte")
+            << QByteArray("<ui version=\"4.0\">\n<widget class=\"QWidget\" name=\"F@rm\"/></ui>")
+                       .replace('@', '\0')
+            << QStringLiteral("line 2, column 32: a NUL byte");
+}
+
+void TestCcFormBuilder::refusesWhatQtCannotManage()
+{
+    QFETCH(QByteArray, document);
+    QFETCH(QString, problem);
+    FormBuilder builder;
+    QBuffer buffer(&document);
+    buffer.open(QIODevice::ReadOnly);
+    if (!problem.isEmpty())
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(problem));
+    QScopedPointer<QWidget> form(builder.load(&buffer));
+    QCOMPARE(form.isNull(), !problem.isEmpty());
+    QVERIFY2(builder.errorString().contains(problem), qPrintable(builder.errorString()));
+}
+
+void TestCcFormBuilder::limitsGridsNoEditorMakes_data()
+{
+    QTest::addColumn<QString>("className");
+    QTest::newRow("push buttons") << QStringLiteral("VoCc::MatrixPushButtons");
+    QTest::newRow("radio buttons") << QStringLiteral("VoCc::MatrixRadioButtons");
+    QTest::newRow("check boxes") << QStringLiteral("VoCc::MatrixCheckBoxes");
+    QTest::newRow("pop buttons") << QStringLiteral("VoCc::MatrixPopButtons");
+}
+
+void TestCcFormBuilder::limitsGridsNoEditorMakes()
+{
+    // The editors offer 1 to 99 rows and columns; a form asking for more gets 99.
+    QFETCH(QString, className);
+    const QString body =
+            QStringLiteral("<widget class=\"%1\" name=\"grid\">"
+                           " <property name=\"row\"><number>65536</number></property>"
+                           " <property name=\"column\"><number>3</number></property>"
+                           " <item><property name=\"text\"><string>A</string></property></item>"
+                           "</widget>");
+    warnings.clear();
+    QtMessageHandler previous = qInstallMessageHandler(collectWarnings);
+    QScopedPointer<QWidget> form(loadForm(formText(body.arg(className))));
+    qInstallMessageHandler(previous);
+    QVERIFY(form);
+    QCOMPARE(warnings.size(), 1);
+    for (const QString &named :
+         {className, QStringLiteral("\"grid\""), QStringLiteral("property \"row\" is 65536")})
+        QVERIFY2(warnings.first().contains(named), qPrintable(warnings.first()));
+
+    QWidget *grid = form->findChild<QWidget *>(QStringLiteral("grid"));
+    const auto button = [grid](int index) -> QAbstractButton * {
+        if (auto *matrix = qobject_cast<AbstractMatrixOptions *>(grid))
+            return matrix->button(index);
+        return qobject_cast<MatrixPopButtons *>(grid)->button(index);
+    };
+    QCOMPARE(grid->property("row").toInt(), 99);
+    QVERIFY(button(99 * 3 - 1));
+    QVERIFY(!button(99 * 3));
+    QCOMPARE(button(0)->text(), QStringLiteral("A"));
+    // Still editable: a size the editors offer is taken as it is.
+    QVERIFY(grid->setProperty("row", 4));
+    QVERIFY(button(4 * 3 - 1));
+    QVERIFY(!button(4 * 3));
+    QCOMPARE(warnings.size(), 1);
+}
+
+void TestCcFormBuilder::showsLongTextsCut()
+{
+    // An entry keeps its whole text; widgets show its first 1,000 characters. A combo box's
+    // items are its entries, so their texts are cut on loading, with one warning.
+    const QString longText = QString(5000, QLatin1Char('x'));
+    const QString item =
+            QStringLiteral("<item><property name=\"text\"><string>%1</string></property></item>")
+                    .arg(longText);
+    const QString body =
+            QStringLiteral("<widget class=\"VoCc::OptionButtons\" name=\"options\">%1</widget>"
+                           "<widget class=\"VoCc::ComboBox\" name=\"combo\">%1%1</widget>")
+                    .arg(item);
+    warnings.clear();
+    QtMessageHandler previous = qInstallMessageHandler(collectWarnings);
+    QScopedPointer<QWidget> form(loadForm(formText(body)));
+    qInstallMessageHandler(previous);
+    auto *options = form->findChild<OptionButtons *>();
+    QCOMPARE(options->textList(), QStringList {longText});
+    QCOMPARE(options->button(0)->text().size(), 1000);
+    QVERIFY(options->button(0)->text().startsWith(QStringLiteral("xxx")));
+    QCOMPARE(form->findChild<ComboBox *>()->itemText(1).size(), 1000);
+    QCOMPARE(warnings.size(), 1);
+    QVERIFY2(warnings.first().contains(
+                     QStringLiteral("VoCc::ComboBox \"combo\": property \"text\"")),
+             qPrintable(warnings.first()));
 }
 
 void TestCcFormBuilder::exampleFormLoads()

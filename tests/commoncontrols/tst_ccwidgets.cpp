@@ -136,6 +136,19 @@ void TestCcWidgets::optionButtonsAndRadiosShowOneButtonPerEntry()
                 {QStringLiteral("Left"), QStringLiteral("Right"), QStringLiteral("Up")});
         QCOMPARE(buttonAt(2)->text(), QStringLiteral("Up"));
         QVERIFY(buttonAt(1)->isChecked());
+
+        // Shrinking by many leaves the buttons of the remaining entries working.
+        QStringList many;
+        for (int i = 0; i < 40; ++i)
+            many << QStringLiteral("e%1").arg(i);
+        options->setTextList(many);
+        options->setTextList({QStringLiteral("a"), QStringLiteral("b")});
+        QVERIFY(!buttonAt(2));
+        QCOMPARE(buttonAt(1)->text(), QStringLiteral("b"));
+        QVERIFY(buttonAt(1)->isChecked());
+        buttonAt(0)->click();
+        QCOMPARE(options->currentIndex(), 0);
+        QVERIFY(!buttonAt(1)->isChecked());
     }
 }
 
@@ -401,6 +414,15 @@ void TestCcWidgets::pageGroupCurrentAndTitles()
     QCOMPARE(titleBar->text(), QStringLiteral("Loaded"));
     titleBar->click();
     QCOMPARE(group.currentIndex(), 1);
+
+    // The current page fills its box below the title bar.
+    group.resize(200, 300);
+    group.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&group));
+    QTRY_COMPARE(group.widget(1)->geometry(),
+                 QRect(0, titleBar->height(), group.box(1)->width(),
+                       group.box(1)->height() - titleBar->height()));
+    QVERIFY(group.widget(1)->height() > titleBar->height());
 
     DrawbackBoxGroup empty;
     QSignalSpy emptyTitle(&empty, &DrawbackBoxGroup::pageTitleChanged);

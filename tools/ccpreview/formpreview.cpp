@@ -11,6 +11,24 @@
 
 namespace {
 
+// The image shows at most this many pixels each way, from the form's top left: a form larger
+// than any screen (a row of thousands of buttons, an entry of millions of characters) would
+// otherwise take an image of gigabytes.
+const int maximumImageSide = 4096;
+
+// The position of the first NUL byte of an 8-bit encoded document, or an empty text. The XML
+// reader reports one as an unexpected character that does not print.
+QString nulPosition(const QByteArray &contents)
+{
+    const int nul = contents.indexOf('\0');
+    // UTF-16 and UTF-32 documents have NUL bytes in their first characters already.
+    if (nul < 4 || contents.left(4).contains('\0'))
+        return QString();
+    return QStringLiteral("line %1, column %2")
+            .arg(contents.left(nul).count('\n') + 1)
+            .arg(nul - contents.lastIndexOf('\n', nul - 1));
+}
+
 // The position of the first XML error, or an empty text for a well-formed document whose
 // root is <ui>.
 QString checkXml(const QByteArray &contents)
@@ -26,6 +44,9 @@ QString checkXml(const QByteArray &contents)
         }
     }
     if (reader.hasError()) {
+        const QString nul = nulPosition(contents);
+        if (!nul.isEmpty())
+            return QStringLiteral("%1: a NUL byte").arg(nul);
         return QStringLiteral("line %1, column %2: %3")
                 .arg(reader.lineNumber())
                 .arg(reader.columnNumber())
@@ -74,7 +95,17 @@ FormPreview::Status FormPreview::load(const QString &fileName)
     QApplication::processEvents();
     form->resize(form->size().expandedTo(form->minimumSizeHint()));
     QApplication::processEvents();
-    m_image = form->grab().toImage();
+    const QSize size = form->size();
+    const QSize shown = size.boundedTo(QSize(maximumImageSide, maximumImageSide));
+    if (shown != size) {
+        m_note = QStringLiteral("the form is %1 x %2 pixels; the image shows its top left "
+                                "%3 x %4")
+                         .arg(size.width())
+                         .arg(size.height())
+                         .arg(shown.width())
+                         .arg(shown.height());
+    }
+    m_image = form->grab(QRect(QPoint(0, 0), shown)).toImage();
     return Ok;
 }
 

@@ -22,9 +22,13 @@ public:
     Status save(const QString &pngFileName);
 
     QString errorString() const { return m_errorString; }
+    // What the user should know about a form that did load (the image shows only part of
+    // it), or an empty text.
+    QString note() const { return m_note; }
 
 private:
     QString m_fileName;
     QImage m_image;
     QString m_errorString;
+    QString m_note;
 };

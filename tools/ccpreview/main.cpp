@@ -30,5 +30,7 @@ int main(int argc, char *argv[])
         err << "ccpreview: " << preview.errorString() << '\n';
         return status;
     }
+    if (!preview.note().isEmpty())
+        err << "ccpreview: " << preview.note() << '\n';
     return 0;
 }

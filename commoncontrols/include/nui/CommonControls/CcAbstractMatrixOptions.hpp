@@ -19,7 +19,8 @@ class GridCells;
 // A grid of row x column buttons. Button i sits at row i / column, column i % column and
 // takes entry i of the text, icon (pixmap path), tool-tip and action lists; lists shorter
 // than the grid leave the remaining buttons blank, longer ones keep their extra entries for
-// a larger grid. The dimensions are the properties "row" and "column". The buttons take up
+// a larger grid. The dimensions are the properties "row" and "column", each at most 99 (what
+// the editors offer): a larger one is limited to 99 with a warning. The buttons take up
 // list changes once control returns to the event loop, or at once when one is asked for.
 class VOCC_EXPORT AbstractMatrixOptions : public QWidget
 {

@@ -62,6 +62,8 @@ signals:
 private:
     void onBoxTitleClicked();
     void updateBoxes();
+    // Shows the current page after the one at index previous was current.
+    void showCurrent(int previous);
     void placeBoxes();
 
     QVBoxLayout *m_layout = nullptr;

@@ -36,7 +36,10 @@ namespace VoCc {
 //    file without a "textList" property, texts in its items are used instead.
 //  - ComboBox: its items (text and icon) belong to the form writer (Designer writes them
 //    from the items' display-property roles); saveExtraInfo only puts each item's action
-//    into the <item> elements already there, and never adds or removes an item.
+//    into the <item> elements already there, and never adds or removes an item. On load,
+//    an item text longer than the 1,000 characters any of the widgets shows of an entry is
+//    cut to that, with one warning for the widget (other widgets keep whole texts in their
+//    lists and only show the first 1,000 characters).
 //  - DrawbackBoxGroup: the pages are child widgets whose window titles are the page titles;
 //    saveExtraInfo writes "currentIndex" and each titled page's "windowTitle" (replacing
 //    any already there). On load, "currentIndex" is applied again once the pages exist.
@@ -56,8 +59,14 @@ public:
     // Reads the widget's entries from its element.
     static void loadExtraInfo(DomWidget *domWidget, QWidget *widget, void *context);
 
+    // Loads a form. A document whose elements nest more than 512 deep, that has more than
+    // 10,000 widgets side by side in one widget (pages of a page group, tab widget, stacked
+    // widget or tool box aside), or that holds a NUL byte is refused before it reaches Qt's
+    // reader: load() returns null and errorString() says why.
     QWidget *load(QIODevice *device, QWidget *parentWidget = nullptr) override;
     using QFormBuilder::save;
+    // Why the last load failed: what load() itself found, or else what Qt's reader reported.
+    QString errorString() const;
 
     // The VoCc classes this builder creates, as written in form files ("VoCc::ComboBox").
     static QStringList widgetClassNames();
@@ -83,6 +92,7 @@ protected:
 
 private:
     QStringList m_unknownClassNames;
+    QString m_errorString;
 };
 
 } // namespace VoCc

@@ -16,7 +16,8 @@ namespace VoCc {
 
 class GridCells;
 
-// A grid of row x column tool buttons, each with a pop-up menu. Cell i (row-major) takes
+// A grid of row x column tool buttons (each dimension at most 99, what the editor offers: a
+// larger one is limited to 99 with a warning), each with a pop-up menu. Cell i (row-major) takes
 // entry i of the text, icon, tool-tip and action lists; missing entries read as empty. A
 // cell's menu starts with its action, when it names one; an application adds more entries
 // through menu(i). The buttons take up list changes once control returns to the event loop,

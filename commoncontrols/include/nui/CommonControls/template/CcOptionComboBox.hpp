@@ -2,6 +2,8 @@
 
 #include "CcAbstractOptions.hpp"
 
+#include <QStringList>
+
 class QComboBox;
 
 namespace VoCc {
@@ -22,6 +24,8 @@ protected:
 
 private:
     QComboBox *m_comboBox = nullptr;
+    // The icon path each entry shows (icons themselves cannot be compared).
+    QStringList m_shownIcons;
 };
 
 } // namespace VoCc
