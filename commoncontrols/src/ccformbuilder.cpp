@@ -338,6 +338,68 @@ void cutLongItemTexts(DomWidget *domWidget)
     }
 }
 
+// The item properties a widget's entries are kept in, by whoever keeps them: the library's
+// own fields for its list-like widgets; text and icon, which the form writer keeps, for
+// combo boxes; everything for the item widgets of Qt, which the form writer keeps whole.
+// Null for a widget whose items nobody keeps.
+const QStringList *keptItemProperties(const QWidget *widget)
+{
+    static const QStringList all = {QStringLiteral("*")};
+    static const QStringList options = {QStringLiteral("text"), QStringLiteral("icon"),
+                                        QStringLiteral("toolTip"), QStringLiteral("data")};
+    static const QStringList checkCombo = {QStringLiteral("text"), QStringLiteral("toolTip")};
+    static const QStringList matrix = {QStringLiteral("text"), QStringLiteral("icon"),
+                                       QStringLiteral("toolTip"), QStringLiteral("action")};
+    static const QStringList comboBox = {QStringLiteral("text"), QStringLiteral("icon"),
+                                         QStringLiteral("action")};
+    if (qobject_cast<const AbstractOptions *>(widget))
+        return &options;
+    if (qobject_cast<const CheckableTextComboBox *>(widget))
+        return &checkCombo;
+    if (qobject_cast<const AbstractMatrixOptions *>(widget)
+        || qobject_cast<const MatrixPopButtons *>(widget))
+        return &matrix;
+    if (qobject_cast<const ComboBox *>(widget))
+        return &comboBox;
+    if (widget->inherits("QComboBox") || widget->inherits("QListWidget")
+        || widget->inherits("QTreeWidget") || widget->inherits("QTableWidget"))
+        return &all;
+    return nullptr;
+}
+
+// A form may hold item data no one keeps (items on a widget without entries, an item
+// property the widget has no list for): it would be gone after the next save, so it is named
+// once per widget.
+void warnOfDroppedItems(const DomWidget *domWidget, const QWidget *widget)
+{
+    const QVector<DomItem *> items = domWidget->elementItem();
+    if (items.isEmpty())
+        return;
+    const QStringList *kept = keptItemProperties(widget);
+    if (!kept) {
+        qWarning("%s \"%s\": its %d item(s) are not kept; this widget has no entries",
+                 widget->metaObject()->className(), qPrintable(widget->objectName()),
+                 int(items.size()));
+        return;
+    }
+    if (kept->contains(QStringLiteral("*")))
+        return;
+    QStringList dropped;
+    for (const DomItem *item : items) {
+        const QList<DomProperty *> properties = item->elementProperty();
+        for (const DomProperty *property : properties) {
+            if (!kept->contains(property->attributeName())
+                && !dropped.contains(property->attributeName()))
+                dropped.append(property->attributeName());
+        }
+    }
+    if (!dropped.isEmpty())
+        qWarning("%s \"%s\": item properties %s are not kept; its entries have %s",
+                 widget->metaObject()->className(), qPrintable(widget->objectName()),
+                 qPrintable(dropped.join(QStringLiteral(", "))),
+                 qPrintable(kept->join(QStringLiteral(", "))));
+}
+
 } // namespace
 
 FormBuilder::FormBuilder()
@@ -575,6 +637,7 @@ void FormBuilder::loadExtraInfo(DomWidget *domWidget, QWidget *widget, void *con
     Q_UNUSED(context)
     if (!domWidget || !widget)
         return;
+    warnOfDroppedItems(domWidget, widget);
 
     if (auto *options = qobject_cast<AbstractOptions *>(widget)) {
         Lists lists = readItems(domWidget, optionFields);
