@@ -24,10 +24,8 @@
 #include <QtTest>
 #include <QtUiPlugin/QDesignerCustomWidgetCollectionInterface>
 
-#include <cxxabi.h>
 #include <dlfcn.h>
 
-#include <cstdlib>
 #include <typeinfo>
 
 namespace {
@@ -65,21 +63,11 @@ const void *sharedObjectOf(const void *address)
     return dladdr(address, &info) ? info.dli_fbase : nullptr;
 }
 
-QString classNameOf(const QObject *object)
-{
-    const char *mangled = typeid(*object).name();
-    int status = 0;
-    char *name = abi::__cxa_demangle(mangled, nullptr, nullptr, &status);
-    const QString result = QString::fromLatin1(status == 0 ? name : mangled);
-    std::free(name);
-    return result;
-}
-
 QMap<QString, int> countsByClass(const QObjectList &objects)
 {
     QMap<QString, int> counts;
     for (const QObject *object : objects)
-        ++counts[classNameOf(object)];
+        ++counts[QLatin1String(object->metaObject()->className())];
     return counts;
 }
 
