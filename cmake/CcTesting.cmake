@@ -7,7 +7,7 @@ set(CC_LSAN_SUPPRESSIONS "${CMAKE_CURRENT_LIST_DIR}/../tests/lsan.supp")
 function(cc_add_qtest name)
     cmake_parse_arguments(ARG "" "TIMEOUT" "SOURCES;LIBS;ENVIRONMENT" ${ARGN})
     add_executable(${name} ${ARG_SOURCES})
-    target_link_libraries(${name} PRIVATE Qt5::Test ${ARG_LIBS})
+    target_link_libraries(${name} PRIVATE Qt::Test CcQtCompat ${ARG_LIBS})
     add_test(NAME ${name} COMMAND ${name})
     set(env
         QT_QPA_PLATFORM=offscreen

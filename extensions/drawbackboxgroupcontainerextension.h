@@ -24,6 +24,10 @@ public:
     void addWidget(QWidget *widget) override;
     void insertWidget(int index, QWidget *widget) override;
     void remove(int index) override;
+    // Pages may always be added and removed. Qt 5 answers so by default; Qt 6 asks every
+    // container to say it.
+    bool canAddWidget() const override { return true; }
+    bool canRemove(int) const override { return true; }
 
 private:
     VoCc::DrawbackBoxGroup *m_group;

@@ -1,5 +1,7 @@
 #include "qtvariantproperty.h"
 
+#include "qtcompat.h"
+
 #include <QApplication>
 #include <QColor>
 #include <QCoreApplication>
@@ -354,7 +356,7 @@ bool sameValue(const QVariant &a, const QVariant &b)
     case QMetaType::QFont: {
         const QFont fa = as<QFont>(a);
         const QFont fb = as<QFont>(b);
-        return fa == fb && fa.resolve() == fb.resolve() && fa.family() == fb.family();
+        return fa == fb && CcQt::fontResolveMask(fa) == CcQt::fontResolveMask(fb) && fa.family() == fb.family();
     }
     case QMetaType::QIcon:
         return as<QIcon>(a).cacheKey() == as<QIcon>(b).cacheKey();

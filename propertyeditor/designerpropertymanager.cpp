@@ -1,5 +1,7 @@
 #include "designerpropertymanager.h"
 
+#include "qtcompat.h"
+
 #include <QtDesigner/private/formwindowbase_p.h>
 #include <QtDesigner/private/qdesigner_utils_p.h>
 #include <QtDesigner/private/shared_enums_p.h>
@@ -161,7 +163,7 @@ void DesignerPropertyManager::initializeProperty(QtProperty *property)
 {
     QtVariantPropertyManager::initializeProperty(property);
     if (isDesignerType(m_creatingType))
-        m_values.insert(property, QVariant(m_creatingType, nullptr));
+        m_values.insert(property, CcQt::defaultValue(m_creatingType));
     if (m_creatingType == designerStringTypeId())
         m_validationModes.insert(property, ValidationMultiLine);
 }
@@ -283,7 +285,7 @@ void DesignerPropertyManager::slotValueChanged(QtProperty *property, const QVari
     if (!m_updatingSubProperties && m_subPropertyInfo.contains(property))
         applySubProperty(property, value);
     if (value.userType() == QMetaType::QFont && propertyType(property) == QVariant::Font)
-        markFontParts(property, qvariant_cast<QFont>(value).resolve());
+        markFontParts(property, CcQt::fontResolveMask(qvariant_cast<QFont>(value)));
     emit valueChanged(property, value, true);
 }
 
@@ -348,7 +350,7 @@ bool DesignerPropertyManager::resetFontSubProperty(QtProperty *property)
     const QWidget *widget = qobject_cast<const QWidget *>(m_object.data());
     const QFont defaultFont = widget ? widget->font() : QApplication::font();
     QFont f = qvariant_cast<QFont>(value(font));
-    const uint mask = f.resolve() & ~bit;
+    const uint mask = CcQt::fontResolveMask(f) & ~bit;
     switch (bit) {
     case QFont::FamilyResolved:
         f.setFamily(defaultFont.family());
@@ -372,7 +374,7 @@ bool DesignerPropertyManager::resetFontSubProperty(QtProperty *property)
         f.setKerning(defaultFont.kerning());
         break;
     }
-    f.resolve(mask);
+    CcQt::setFontResolveMask(f, mask);
     setValue(font, f);
     return true;
 }
@@ -480,7 +482,7 @@ void DesignerPropertyManager::setValue(QtProperty *property, const QVariant &val
         else if (type == designerPixmapTypeId() && v.canConvert<QString>())
             v = QVariant::fromValue(PropertySheetPixmapValue(v.toString()));
         else
-            v = QVariant(type, nullptr);
+            v = CcQt::defaultValue(type);
     }
     bool same;
     if (type == designerStringTypeId())

@@ -2,6 +2,7 @@
 
 #include "designereditorfactory.h"
 #include "designerpropertymanager.h"
+#include "qtcompat.h"
 #include "itempropertybrowser.h"
 
 #include "qtvariantproperty.h"
@@ -156,7 +157,7 @@ void AbstractItemEditor::updateBrowser()
         QVariant value = getItemData(role);
         if (!value.isValid()) {
             value = role == ItemFlagsRole ? QVariant(defaultItemFlags())
-                                          : QVariant(property->value().userType(), nullptr);
+                                          : CcQt::defaultValue(property->value().userType());
             property->setModified(false);
         } else {
             property->setModified(true);
@@ -191,7 +192,7 @@ void AbstractItemEditor::propertyChanged(QtProperty *property)
         isDefault = qvariant_cast<PropertySheetIconValue>(value).mask() == 0;
         break;
     case Qt::FontRole:
-        isDefault = qvariant_cast<QFont>(value).resolve() == 0;
+        isDefault = CcQt::fontResolveMask(qvariant_cast<QFont>(value)) == 0;
         break;
     default:
         break;
@@ -226,7 +227,7 @@ void AbstractItemEditor::resetProperty(QtProperty *property)
     if (role == -1)
         return;
     prop->setValue(role == ItemFlagsRole ? QVariant(defaultItemFlags())
-                                         : QVariant(prop->value().userType(), nullptr));
+                                         : CcQt::defaultValue(prop->value().userType()));
     prop->setModified(false);
     setItemData(role, QVariant());
 

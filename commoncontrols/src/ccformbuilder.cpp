@@ -43,6 +43,8 @@
 #include "nui/CommonControls/template/CcOptionComboBox.hpp"
 #include "nui/CommonControls/template/CcOptionRadios.hpp"
 
+#include "qtcompat.h"
+
 #include <QtDesigner/private/ui4_p.h>
 
 #include <QBuffer>
@@ -239,7 +241,7 @@ const int maximumNesting = 512;
 const int maximumChildWidgets = 10000;
 
 // Containers that show one of their pages at a time: their pages are not painted side by side.
-bool holdsPages(const QStringRef &className)
+bool holdsPages(QStringView className)
 {
     return className == QLatin1String("VoCc::DrawbackBoxGroup")
             || className == QLatin1String("QStackedWidget")
@@ -557,7 +559,7 @@ QList<DomProperty *> FormBuilder::computeProperties(QObject *object)
     const QMetaObject *meta = object->metaObject();
     for (int i = 0; i < meta->propertyCount(); ++i) {
         const QMetaProperty property = meta->property(i);
-        if (!property.isFlagType() || !property.isWritable() || !property.isDesignable(object))
+        if (!property.isFlagType() || !property.isWritable() || !CcQt::isDesignable(property, object))
             continue;
         const QMetaEnum flags = property.enumerator();
         const int bits = property.read(object).toInt();

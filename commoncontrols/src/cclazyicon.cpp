@@ -1,6 +1,7 @@
 #include "cclazyicon.h"
 
 #include <QDataStream>
+#include <QIODevice>
 #include <QIconEngine>
 
 namespace VoCc {
@@ -40,10 +41,21 @@ public:
         icon().addFile(fileName, size, mode, state);
     }
 
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    // Qt 6 asks an engine's sizes and nullness through virtual functions of their own.
+    QList<QSize> availableSizes(QIcon::Mode mode, QIcon::State state) override
+    {
+        return icon().availableSizes(mode, state);
+    }
+
+    // Answered without drawing: combo boxes ask every entry while sizing themselves.
+    bool isNull() override { return false; }
+#else
     QList<QSize> availableSizes(QIcon::Mode mode, QIcon::State state) const override
     {
         return icon().availableSizes(mode, state);
     }
+#endif
 
     // Streamed, the icon is the pixmap icon it stands for, and reads back as one.
     QString key() const override { return QStringLiteral("QPixmapIconEngine"); }
@@ -70,6 +82,8 @@ public:
         return copy;
     }
 
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    // Qt 5 asks them through the engine's hook.
     void virtual_hook(int id, void *data) override
     {
         switch (id) {
@@ -86,6 +100,7 @@ public:
             QIconEngine::virtual_hook(id, data);
         }
     }
+#endif
 
 private:
     QIcon &icon() const

@@ -1,3 +1,5 @@
+#include "qtcompat.h"
+
 #include "designertestcore.h"
 #include "itemeditortestsupport.h"
 
@@ -269,7 +271,7 @@ void TestItemListEditor::editingValuesInThePaneSetsAndMirrorsRoles()
     boldBox->click();
     const QFont itemFont = qvariant_cast<QFont>(item->data(Qt::FontRole));
     QVERIFY(itemFont.bold());
-    QCOMPARE(itemFont.resolve(), uint(QFont::WeightResolved));
+    QCOMPARE(CcQt::fontResolveMask(itemFont), uint(QFont::WeightResolved));
     QCOMPARE(itemFont.family(), editor->listWidget()->font().family());
     QCOMPARE(changed.last().at(1).toInt(), int(Qt::FontRole));
 

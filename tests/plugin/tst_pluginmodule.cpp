@@ -1,3 +1,5 @@
+#include "qtcompat.h"
+
 #include "designertestcore.h"
 
 #include <extrainfoextension.h>
@@ -101,7 +103,7 @@ private slots:
         // Designer links its own classes of similar names; nothing of ours may be visible.
         QLibrary module(QStringLiteral(CC_PLUGIN_MODULE));
         QVERIFY(module.resolve("qt_plugin_instance"));
-        QVERIFY(module.resolve("qt_plugin_query_metadata"));
+        QVERIFY(module.resolve(CcQt::pluginMetaDataFunction));
         const char *internals[] = {"_ZTV11AnglePlugin", "_ZN8CpPlugin16staticMetaObjectE",
                                    "_ZTV34DrawbackBoxGroupContainerExtension",
                                    "_ZTV18ExtraInfoExtension", "_Z16widgetPluginRowsv"};
