@@ -8,11 +8,13 @@
 # its window is up, a screenshot of the whole screen is written to $SCREENSHOT (default
 # <build>/designer.png) and Designer is closed again.
 #
-# BUILD_DIR picks the build folder (default: build); NO_BUILD=1 skips the build step.
+# QT_MAJOR=6 opens Qt 6's Designer with the Qt 6 build (build-qt6). BUILD_DIR picks the build
+# folder (default: build); NO_BUILD=1 skips the build step.
 set -euo pipefail
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
-build_dir=${BUILD_DIR:-$root/build}
+source "$root/scripts/qtversion.sh"
+build_dir=$(cc_build_dir OFF)
 if [ "${NO_BUILD:-0}" != 1 ]; then
     BUILD_DIR=$build_dir "$root/scripts/setup.sh"
 fi
@@ -36,7 +38,7 @@ if [ "${#forms[@]}" -eq 0 ]; then
 fi
 
 if [ -n "${DISPLAY:-}" ]; then
-    exec designer "${forms[@]}"
+    exec "$cc_designer" "${forms[@]}"
 fi
 
 screenshot=${SCREENSHOT:-$build_dir/designer.png}
@@ -55,9 +57,10 @@ CONF
 cat > "$settings/run.sh" <<'INNER'
 #!/usr/bin/env bash
 set -u
-screenshot=$1
-shift
-designer -geometry 1600x1000+0+0 "$@" &
+designer=$1
+screenshot=$2
+shift 2
+"$designer" -geometry 1600x1000+0+0 "$@" &
 pid=$!
 # Wait for the main window and for the form window to be mapped.
 for _ in $(seq 1 120); do
@@ -73,7 +76,7 @@ wait "$pid" 2>/dev/null
 exit 0
 INNER
 chmod +x "$settings/run.sh"
-xvfb-run -a -s "-screen 0 1600x1000x24" "$settings/run.sh" "$screenshot" "${forms[@]}"
+xvfb-run -a -s "-screen 0 1600x1000x24" "$settings/run.sh" "$cc_designer" "$screenshot" "${forms[@]}"
 if [ ! -s "$screenshot" ]; then
     echo "No screenshot was written." >&2
     exit 1

@@ -5,25 +5,22 @@
 #
 #   scripts/setup.sh [--sanitize] [extra cmake -D options]
 #
-# BUILD_DIR overrides the build folder (default: build, or build-asan with --sanitize).
+# QT_MAJOR picks the Qt to build against: 5 (the default) or 6. The build folder is
+# build, build-asan (--sanitize), build-qt6 or build-qt6-asan; BUILD_DIR overrides it.
 set -euo pipefail
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+source "$root/scripts/qtversion.sh"
 sanitize=OFF
 if [ "${1:-}" = "--sanitize" ]; then
     sanitize=ON
     shift
 fi
-if [ "$sanitize" = ON ]; then
-    build_dir=${BUILD_DIR:-$root/build-asan}
-else
-    build_dir=${BUILD_DIR:-$root/build}
-fi
+build_dir=$(cc_build_dir "$sanitize")
 
 packages=(
     cmake ninja-build g++ pkg-config
-    qtbase5-dev qtbase5-private-dev qttools5-dev qttools5-private-dev qttools5-dev-tools
-    libqt5svg5                # Designer's own icons include SVGs
+    "${cc_qt_packages[@]}"
     fonts-dejavu-core         # offscreen rendering needs at least one font
     xvfb xauth imagemagick    # the real designer under a virtual display, and screenshots of it
     x11-utils                 # xwininfo: scripts/designer.sh waits for the Designer window
@@ -44,6 +41,6 @@ jobs=$(nproc 2>/dev/null || echo 2)
 if [ ! -f "$build_dir/CMakeCache.txt" ] || [ "$#" -gt 0 ]; then
     cmake -S "$root" -B "$build_dir" -G Ninja \
         -DCMAKE_BUILD_TYPE="${BUILD_TYPE:-RelWithDebInfo}" \
-        -DCC_SANITIZE="$sanitize" "$@"
+        -DCC_QT_MAJOR="$cc_qt_major" -DCC_SANITIZE="$sanitize" "$@"
 fi
 cmake --build "$build_dir" --parallel "$jobs"
