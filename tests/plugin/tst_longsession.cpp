@@ -5,7 +5,7 @@
 // ours may be left but the collection, its plug-ins and the extension factories.
 
 #include "designertestcore.h"
-#include "editingfamilies.h"
+#include "itemdialogdriver.h"
 #include "modalanswer.h"
 
 #include <nui/CommonControls/CcComboBox.hpp>

@@ -1,15 +1,20 @@
 #pragma once
 
-#include <QStringList>
+#include "designertestcore.h"
+#include "modalanswer.h"
 
-QT_BEGIN_NAMESPACE
-class QAbstractItemView;
-class QDialog;
-class QListWidget;
-class QTableWidget;
-class QTreeWidget;
-class QTreeWidgetItem;
-QT_END_NAMESPACE
+#include <QDesignerFormEditorInterface>
+#include <QDesignerTaskMenuExtension>
+#include <QExtensionManager>
+#include <QHeaderView>
+#include <QListWidget>
+#include <QMenu>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QTableWidget>
+#include <QToolButton>
+#include <QTreeWidget>
+#include <QtTest>
 
 namespace CcTest {
 
@@ -19,42 +24,190 @@ namespace CcTest {
 class ItemDialogDriver
 {
 public:
-    explicit ItemDialogDriver(QDialog *dialog);
+    explicit ItemDialogDriver(QDialog *dialog)
+        : m_dialog(dialog),
+          m_list(dialog->findChild<QListWidget *>(QStringLiteral("listWidget"))),
+          m_table(dialog->findChild<QTableWidget *>(QStringLiteral("tableWidget"))),
+          m_pane(dialog->findChild<QTreeWidget *>())
+    {
+        if (m_pane && !m_pane->isVisible())
+            QTest::mouseClick(child<QPushButton>("showPropertiesButton"), Qt::LeftButton);
+    }
     bool isValid() const { return (m_list || m_table) && m_pane; }
 
+    QDialog *dialog() const { return m_dialog; }
     QListWidget *list() const { return m_list; }
     QTableWidget *table() const { return m_table; }
-    // The texts of the list's rows, or of the table's cells row by row.
-    QStringList rows() const;
-    // The names of the pane's properties, top to bottom, and one's value as it shows.
-    QStringList propertyNames() const;
-    QString propertyValue(const QString &name) const;
+    template<class T>
+    T *child(const char *name) const
+    {
+        return m_dialog->findChild<T *>(QLatin1String(name));
+    }
 
-    void select(int row);
-    void selectCell(int row, int column);
+    // The texts of the list's rows, or of the table's cells row by row.
+    QStringList rows() const
+    {
+        QStringList texts;
+        for (int i = 0; m_list && i < m_list->count(); ++i)
+            texts.append(m_list->item(i)->text());
+        for (int r = 0; m_table && r < m_table->rowCount(); ++r) {
+            for (int c = 0; c < m_table->columnCount(); ++c)
+                texts.append(m_table->item(r, c) ? m_table->item(r, c)->text() : QString());
+        }
+        return texts;
+    }
+    // The names of the pane's properties, top to bottom, and one's value as it shows.
+    QStringList propertyNames() const
+    {
+        QStringList names;
+        for (int i = 0; i < m_pane->topLevelItemCount(); ++i)
+            names.append(m_pane->topLevelItem(i)->text(0));
+        return names;
+    }
+    QString propertyValue(const QString &name) const
+    {
+        const QTreeWidgetItem *item = propertyItem(name);
+        return item ? item->text(1) : QStringLiteral("<no %1>").arg(name);
+    }
+
+    void select(int row)
+    {
+        m_list->scrollToItem(m_list->item(row));
+        QTest::mouseClick(m_list->viewport(), Qt::LeftButton, {},
+                          m_list->visualItemRect(m_list->item(row)).center());
+    }
+    void selectCell(int row, int column)
+    {
+        const QModelIndex index = m_table->model()->index(row, column);
+        m_table->scrollTo(index);
+        QTest::mouseClick(m_table->viewport(), Qt::LeftButton, {},
+                          m_table->visualRect(index).center());
+    }
     // Steps the spin box "rowCounts" or "colCounts" to value with the arrow keys.
-    void stepTo(const char *spinBox, int value);
+    void stepTo(const char *spinBox, int value)
+    {
+        auto *spin = child<QSpinBox>(spinBox);
+        QVERIFY2(spin, spinBox);
+        while (spin->value() != value) {
+            const int before = spin->value();
+            QTest::keyClick(spin, before < value ? Qt::Key_Up : Qt::Key_Down);
+            QVERIFY2(spin->value() != before, spinBox);
+        }
+    }
     // Clicks one of "newListItemButton", "deleteListItemButton", "moveListItemUpButton",
     // "moveListItemDownButton".
-    void click(const char *button);
+    void click(const char *button)
+    {
+        auto *target = child<QAbstractButton>(button);
+        QVERIFY2(target, button);
+        QTest::mouseClick(target, Qt::LeftButton);
+    }
     // New below the current row, named by typing into the in-place editor.
-    void addRow(const QString &text);
+    void addRow(const QString &text)
+    {
+        click("newListItemButton");
+        typeIntoShownEditor(m_list->viewport(), text);
+    }
     // Types a new text for the current row or cell into the in-place editor.
-    void renameCurrent(const QString &text);
+    void renameCurrent(const QString &text)
+    {
+        QAbstractItemView *view = m_list ? static_cast<QAbstractItemView *>(m_list) : m_table;
+        QTest::keyClick(view, Qt::Key_F2);
+        typeIntoShownEditor(view->viewport(), text);
+    }
     // Types a value into a string property of the current row.
-    void typeProperty(const QString &name, const QString &text);
+    void typeProperty(const QString &name, const QString &text)
+    {
+        openPropertyEditor(name);
+        typeIntoShownEditor(m_pane->viewport(), text);
+    }
     // Picks a file for an icon property of the current row through the file dialog.
-    void chooseIconFile(const QString &name, const QString &path);
+    void chooseIconFile(const QString &name, const QString &path)
+    {
+        openPropertyEditor(name);
+        QAction *chooseFile = nullptr;
+        for (QToolButton *button : m_pane->viewport()->findChildren<QToolButton *>()) {
+            for (QAction *action : button->isVisible() && button->menu() ? button->menu()->actions()
+                                                                         : QList<QAction *>()) {
+                if (action->text() == QLatin1String("Choose File..."))
+                    chooseFile = action;
+            }
+        }
+        QVERIFY2(chooseFile, qPrintable(name));
+        answerModal<QFileDialog>([chooseFile] { chooseFile->trigger(); },
+                                 [path](QFileDialog *dialog) { typeFileName(dialog, path); });
+        settle();
+    }
 
 private:
-    void openPropertyEditor(const QString &name);
-    QTreeWidgetItem *propertyItem(const QString &name) const;
-    QAbstractItemView *view() const;
+    QTreeWidgetItem *propertyItem(const QString &name) const
+    {
+        for (int i = 0; i < m_pane->topLevelItemCount(); ++i) {
+            if (m_pane->topLevelItem(i)->text(0) == name)
+                return m_pane->topLevelItem(i);
+        }
+        return nullptr;
+    }
+    void openPropertyEditor(const QString &name)
+    {
+        QTreeWidgetItem *item = propertyItem(name);
+        QVERIFY2(item, qPrintable(name));
+        m_pane->scrollToItem(item);
+        // A click on the value column opens the property's editor.
+        const QHeaderView *header = m_pane->header();
+        const QPoint valueCell(header->sectionViewportPosition(1) + header->sectionSize(1) / 2,
+                               m_pane->visualItemRect(item).center().y());
+        QTest::mouseClick(m_pane->viewport(), Qt::LeftButton, {}, valueCell);
+        settle();
+    }
+    // Types into the line edit an editor has just opened among parent's children, and ends
+    // the editing with Return.
+    static void typeIntoShownEditor(QWidget *parent, const QString &text)
+    {
+        const QList<QLineEdit *> edits = parent->findChildren<QLineEdit *>();
+        auto shown = std::find_if(edits.cbegin(), edits.cend(),
+                                  [](const QLineEdit *edit) { return edit->isVisible(); });
+        QVERIFY2(shown != edits.cend(), "no editor open");
+        (*shown)->selectAll();
+        for (const QChar c : text) {
+            // QTest spells out ASCII only; other letters come as the text of a key of their own.
+            if (c.unicode() < 128)
+                QTest::keyClick(*shown, c.toLatin1());
+            else
+                QTest::sendKeyEvent(QTest::Click, *shown, Qt::Key_unknown, QString(c),
+                                    Qt::NoModifier);
+        }
+        QTest::keyClick(*shown, Qt::Key_Return);
+        settle();
+    }
 
     QDialog *m_dialog;
     QListWidget *m_list;
     QTableWidget *m_table;
     QTreeWidget *m_pane;
 };
+
+inline QDesignerTaskMenuExtension *taskMenuOf(QObject *widget)
+{
+    return qt_extension<QDesignerTaskMenuExtension *>(designerCore()->extensionManager(), widget);
+}
+
+// Chooses the widget's context-menu entry, works the editor with act and presses OK or
+// Cancel. Tells whether an editor came up.
+inline bool edit(QWidget *widget, const std::function<void(ItemDialogDriver &)> &act,
+                 bool accept = true)
+{
+    QDesignerTaskMenuExtension *menu = taskMenuOf(widget);
+    if (!menu)
+        return false;
+    QAction *entry = menu->preferredEditAction();
+    return answerModal<QDialog>([entry] { entry->trigger(); },
+                                [act](QDialog *dialog) {
+                                    ItemDialogDriver driver(dialog);
+                                    if (driver.isValid())
+                                        act(driver);
+                                },
+                                accept);
+}
 
 } // namespace CcTest

@@ -1,235 +1,708 @@
+// Item editing as a form author does it: the built module in a real Designer core, the
+// context-menu entries opening the editors, the dialogs driven through their widgets and the
+// commands on the form's real undo stack. Hand-written edits of the ten families check what
+// each editor shows and what an edit saves; randomized sessions check the form's promises.
+//
+// A random session is a seeded series of steps (an editor opened on the widget, one to eight
+// actions in it, OK or Cancel; Undo and Redo; saving and loading into a fresh form window).
+// After every step undoing everything must give the text the session started from, redoing
+// everything the text after the last edit, saving what was loaded the same text; the widget
+// must show what the text says, no editor may be left alive and nothing may warn. A failing
+// session is shrunk to the steps that still fail and printed with its seed.
+// CC_RANDOM_SESSIONS (default 300) sets how many sessions run, CC_RANDOM_SEED (default 1) the
+// seed of the first; session i uses seed + i.
+
 #include "designertestcore.h"
-#include "editingfamilies.h"
+#include "itemdialogdriver.h"
 #include "modalanswer.h"
 #include "testpictures.h"
 
+#include <nui/CommonControls/CcCheckableTextComboBox.hpp>
+#include <nui/CommonControls/CcComboBox.hpp>
 #include <nui/CommonControls/CcDrawbackBoxGroup.hpp>
 #include <nui/CommonControls/CcFormBuilder.hpp>
+#include <nui/CommonControls/CcMatrixButtons.hpp>
+#include <nui/CommonControls/CcMatrixPopButtons.hpp>
+#include <nui/CommonControls/template/CcOptionButtons.hpp>
+#include <nui/CommonControls/template/CcOptionComboBox.hpp>
+#include <nui/CommonControls/template/CcOptionRadios.hpp>
 
-#include <QAction>
-#include <QApplication>
 #include <QDesignerContainerExtension>
 #include <QDesignerFormWindowInterface>
-#include <QDesignerTaskMenuExtension>
-#include <QDir>
 #include <QExtensionFactory>
-#include <QFileInfo>
-#include <QListWidget>
-#include <QMetaMethod>
-#include <QTableWidget>
+#include <QRandomGenerator>
+#include <QTabWidget>
 #include <QUndoStack>
-#include <QtTest>
 
 using namespace CcTest;
 using Driver = ItemDialogDriver;
 
+namespace {
+
+QString testIcon;
+
+// What each widget shows of its entries.
+QStringList comboTexts(const QComboBox *combo)
+{
+    QStringList texts;
+    for (int i = 0; i < combo->count(); ++i)
+        texts.append(combo->itemText(i));
+    return texts;
+}
+QStringList shownByComboBox(QWidget *w) { return comboTexts(qobject_cast<QComboBox *>(w)); }
+template<class Widget>
+QStringList shownByInnerCombo(QWidget *w)
+{
+    return comboTexts(qobject_cast<Widget *>(w)->comboBox());
+}
+template<class Widget>
+QStringList shownByButtons(QWidget *w)
+{
+    auto *widget = qobject_cast<Widget *>(w);
+    QStringList texts;
+    for (int i = 0; widget && widget->button(i); ++i)
+        texts.append(widget->button(i)->text());
+    return texts;
+}
+// A matrix: its dimensions, then its buttons' texts row by row.
+template<class Matrix>
+QStringList shownByMatrix(QWidget *w)
+{
+    auto *matrix = qobject_cast<Matrix *>(w);
+    return QStringList(QStringLiteral("%1x%2").arg(matrix->row()).arg(matrix->column()))
+            + shownByButtons<Matrix>(w);
+}
+QStringList shownByPageGroup(QWidget *w)
+{
+    auto *group = qobject_cast<VoCc::DrawbackBoxGroup *>(w);
+    QStringList titles;
+    for (int i = 0; i < group->count(); ++i)
+        titles.append(group->box(i)->title());
+    return titles;
+}
+
+QString prop(const char *name, const char *value, const char *kind = "string", bool notr = false)
+{
+    return QStringLiteral("<property name=\"%1\"><%3%4>%2</%3></property>")
+            .arg(QLatin1String(name), QLatin1String(value), QLatin1String(kind),
+                 notr ? QStringLiteral(" notr=\"true\"") : QString());
+}
+QString untranslated(const char *name, const char *value)
+{
+    return prop(name, value, "string", true);
+}
+QString item(const QString &properties)
+{
+    return QStringLiteral("<item>%1</item>").arg(properties);
+}
+
+// Entries A, B and C; B carries the extra values its widget keeps.
+QString entries(const QString &extraOfB)
+{
+    return item(prop("text", "A")) + item(prop("text", "B") + extraOfB) + item(prop("text", "C"));
+}
+const QString optionExtras = prop("toolTip", "tipB") + untranslated("data", "dB");
+const QString pages =
+        QStringLiteral("<widget class=\"QWidget\" name=\"pageA\">%1</widget>"
+                       "<widget class=\"QWidget\" name=\"pageB\">%2</widget>"
+                       "<widget class=\"QWidget\" name=\"pageC\">%3</widget>")
+                .arg(prop("windowTitle", "A"), prop("windowTitle", "B"), prop("windowTitle", "C"));
+// A 2 x 3 matrix a..e and an empty cell; a has an icon, a tool tip and an action.
+const QString firstCellExtras =
+        untranslated("icon",
+                     ":/qt-project.org/styles/commonstyle/images/standardbutton-open-16.png")
+        + prop("toolTip", "tipa") + untranslated("action", "acta");
+const QString dimensions = prop("row", "2", "number") + prop("column", "3", "number");
+const QString matrixEntries = dimensions + item(prop("text", "a") + firstCellExtras)
+        + item(prop("text", "b")) + item(prop("text", "c")) + item(prop("text", "d"))
+        + item(prop("text", "e"));
+const QString popEntries = dimensions
+        + QStringLiteral("<property name=\"textList\"><stringlist><string>a</string>"
+                         "<string>b</string><string>c</string><string>d</string>"
+                         "<string>e</string><string></string></stringlist></property>")
+        + item(firstCellExtras);
+
+// What a user does in an editor: looks at it as it opens and makes a change (then Cancel),
+// makes a change and takes it back (then OK), and edits for real (then OK).
+using Script = void (*)(Driver &);
+
+void listOpened(Driver &dialog)
+{
+    QCOMPARE(dialog.rows(), QStringList({"A", "B", "C"}));
+    dialog.addRow(QStringLiteral("Cancelled"));
+}
+void listChangedBack(Driver &dialog)
+{
+    dialog.select(1);
+    dialog.typeProperty(QStringLiteral("text"), QStringLiteral("Bx"));
+    dialog.typeProperty(QStringLiteral("text"), QStringLiteral("B"));
+}
+// A new entry with every value the editor offers, a deletion, a move.
+void listEdit(Driver &dialog)
+{
+    dialog.select(1);
+    dialog.addRow(QStringLiteral("Addd"));
+    dialog.renameCurrent(QStringLiteral("Added"));
+    for (const QString &property : dialog.propertyNames()) {
+        if (property == QLatin1String("icon"))
+            dialog.chooseIconFile(property, testIcon);
+        else if (property != QLatin1String("text"))
+            dialog.typeProperty(property, property + QStringLiteral("Added"));
+    }
+    dialog.select(0);
+    dialog.click("deleteListItemButton");
+    dialog.select(1);
+    dialog.click("moveListItemUpButton");
+    QCOMPARE(dialog.rows(), QStringList({"Added", "B", "C"}));
+}
+
+void matrixOpened(Driver &dialog)
+{
+    // Both matrix dialogs are one form: its name, one tab, spin boxes from 1 to 99.
+    QCOMPARE(dialog.dialog()->objectName(), QStringLiteral("MatrixPushButtonsEditor"));
+    auto *tabs = dialog.child<QTabWidget>("tabWidget");
+    QVERIFY(tabs && tabs->count() == 1 && tabs->tabText(0) == QLatin1String("Items"));
+    auto *rows = dialog.child<QSpinBox>("rowCounts");
+    auto *columns = dialog.child<QSpinBox>("colCounts");
+    QVERIFY(rows && columns);
+    QCOMPARE(rows->minimum(), 1);
+    QCOMPARE(columns->maximum(), 99);
+    QCOMPARE(dialog.rows(), QStringList({"a", "b", "c", "d", "e", ""}));
+    QCOMPARE(rows->value(), 2);
+    QCOMPARE(columns->value(), 3);
+    QCOMPARE(dialog.table()->currentRow(), 0);
+    QCOMPARE(dialog.table()->currentColumn(), 0);
+    QCOMPARE(dialog.propertyValue(QStringLiteral("text")), QStringLiteral("a"));
+    QCOMPARE(dialog.propertyValue(QStringLiteral("toolTip")), QStringLiteral("tipa"));
+    QCOMPARE(dialog.propertyValue(QStringLiteral("action")), QStringLiteral("acta"));
+    dialog.stepTo("rowCounts", 3);
+}
+void matrixChangedBack(Driver &dialog)
+{
+    dialog.selectCell(0, 1);
+    dialog.typeProperty(QStringLiteral("text"), QStringLiteral("bx"));
+    dialog.typeProperty(QStringLiteral("text"), QStringLiteral("b"));
+}
+// A row more and a column less, a cell typed in place, values on a cell that had no item.
+void matrixEdit(Driver &dialog)
+{
+    // No cell is current after a change of size; the pane shows defaults.
+    dialog.stepTo("rowCounts", 3);
+    QCOMPARE(dialog.table()->currentRow(), -1);
+    dialog.stepTo("colCounts", 2);
+    QCOMPARE(dialog.table()->currentRow(), -1);
+    QCOMPARE(dialog.propertyValue(QStringLiteral("text")), QString());
+    dialog.selectCell(2, 0);
+    dialog.renameCurrent(QStringLiteral("g"));
+    QCOMPARE(dialog.propertyValue(QStringLiteral("text")), QStringLiteral("g"));
+    dialog.typeProperty(QStringLiteral("toolTip"), QStringLiteral("tipg"));
+    dialog.selectCell(2, 1);
+    dialog.typeProperty(QStringLiteral("action"), QStringLiteral("acth"));
+    QCOMPARE(dialog.rows(), QStringList({"a", "b", "d", "e", "g", ""}));
+}
+const Script listScripts[] = {listOpened, listChangedBack, listEdit};
+const Script matrixScripts[] = {matrixOpened, matrixChangedBack, matrixEdit};
+
+// The ten widget families with item editors: each with its entries in a form and what its
+// widget shows of them, its editor, and an edit's results.
+struct Family
+{
+    const char *className;
+    const char *entry;
+    const char *title;
+    QStringList properties;
+    const char *command;
+    QStringList (*shown)(QWidget *);
+    QString entriesXml;
+    bool list; // a list of entries, or else a matrix of cells
+    // Shown before and after the edit, and after undoing only the edit's change command.
+    QStringList opened, edited, changeUndone;
+    // Values the edit set that the saved form holds ("@icon" stands for the test icon), and
+    // those it does not.
+    QStringList saved, notSaved;
+    // Commands the edit pushes: the change, and for the button matrices their two counts.
+    int pushes;
+};
+
+const QStringList abc = {"A", "B", "C"};
+const QStringList addedBC = {"Added", "B", "C"};
+const QStringList grid = {"2x3", "a", "b", "c", "d", "e", ""};
+const QStringList editedGrid = {"3x2", "a", "b", "d", "e", "g", ""};
+const QStringList gridIn3x2 = {"3x2", "a", "b", "c", "d", "e", ""};
+const QStringList matrixSaved = {">g<", "tipg", "acth", ">b<", "tipa"};
+const QStringList optionSaved = {"@icon", "tooltipAdded", "dataAdded", "tipB", "dB"};
+
+// clang-format off
+const Family families[] = {
+    {"VoCc::ComboBox", "Edit Items", "Edit ComboBox", {"text", "icon", "action"}, "", shownByComboBox,
+     entries(untranslated("action", "actB")), true, abc, addedBC, abc, {"@icon", "actionAdded", "actB"}, {}, 1},
+    {"VoCc::CheckableTextComboBox", "Edit Items", "Edit Checkable ComboBox", {"text", "toolTip"}, "", shownByInnerCombo<VoCc::CheckableTextComboBox>,
+     entries(prop("toolTip", "tipB")), true, abc, addedBC, abc, {"toolTipAdded", "tipB"}, {}, 1},
+    {"VoCc::OptionComboBox", "Edit Items", "Edit Option ComboBox", {"text", "icon", "data"}, "", shownByInnerCombo<VoCc::OptionComboBox>,
+     entries(untranslated("data", "dB")), true, abc, addedBC, abc, {"@icon", "dataAdded", "dB"}, {}, 1},
+    {"VoCc::OptionButtons", "Edit Buttons", "Edit OptionButtons", {"text", "icon", "tooltip", "data"}, "Change OptionButtons Contents", shownByButtons<VoCc::OptionButtons>,
+     entries(optionExtras), true, abc, addedBC, abc, optionSaved, {}, 1},
+    {"VoCc::OptionRadios", "Edit Buttons", "Edit OptionRadios", {"text", "icon", "tooltip", "data"}, "Change OptionRadios Contents", shownByButtons<VoCc::OptionRadios>,
+     entries(optionExtras), true, abc, addedBC, abc, optionSaved, {}, 1},
+    {"VoCc::DrawbackBoxGroup", "Edit DrawbackBox", "Edit DrawbackBoxGroup", {"text", "tooltip", "data"}, "Change OptionRadios Contents", shownByPageGroup,
+     pages, true, abc, addedBC, abc, {}, {"tooltipAdded", "dataAdded"}, 1},
+    {"VoCc::MatrixPushButtons", "Edit Buttons", "Edit Matrix buttons", {"text", "icon", "toolTip", "action"}, "Change MatrixButtons Contents", shownByMatrix<VoCc::AbstractMatrixOptions>,
+     matrixEntries, false, grid, editedGrid, gridIn3x2, matrixSaved, {}, 3},
+    {"VoCc::MatrixRadioButtons", "Edit Buttons", "Edit Matrix buttons", {"text", "icon", "toolTip", "action"}, "Change MatrixButtons Contents", shownByMatrix<VoCc::AbstractMatrixOptions>,
+     matrixEntries, false, grid, editedGrid, gridIn3x2, matrixSaved, {}, 3},
+    {"VoCc::MatrixCheckBoxes", "Edit Buttons", "Edit Matrix buttons", {"text", "icon", "toolTip", "action"}, "Change MatrixButtons Contents", shownByMatrix<VoCc::AbstractMatrixOptions>,
+     matrixEntries, false, grid, editedGrid, gridIn3x2, matrixSaved, {}, 3},
+    {"VoCc::MatrixPopButtons", "Edit Buttons", "Edit Matrix PopButtons", {"text", "icon", "toolTip", "action"}, "Change MatrixPopButtons Contents", shownByMatrix<VoCc::MatrixPopButtons>,
+     popEntries, false, grid, editedGrid, grid, matrixSaved, {}, 1},
+};
+// clang-format on
+const int familyCount = int(std::size(families));
+const Family &pageGroupFamily = families[5];
+
+// A form holding one widget of the family, named "edited".
+QString familyForm(const Family &family)
+{
+    return formXml(QStringLiteral("<widget class=\"%1\" name=\"edited\">%2</widget>\n")
+                           .arg(QLatin1String(family.className), family.entriesXml),
+                   QStringLiteral("<customwidget><class>VoCc::DrawbackBoxGroup</class><extends>"
+                                  "QWidget</extends><addpagemethod>addPage</addpagemethod>"
+                                  "</customwidget>"));
+}
+QWidget *editedWidget(QDesignerFormWindowInterface *form)
+{
+    return form->mainContainer()->findChild<QWidget *>(QStringLiteral("edited"));
+}
+
+// The form as Undo must give it back: the page group is left on its last page by every
+// change, so its current index is blotted out.
+QString comparable(const Family &family, QString ui)
+{
+    static const QRegularExpression current(
+            QStringLiteral("(<property name=\"currentIndex\">\\s*<number>)\\d+(</number>)"));
+    return family.shown == shownByPageGroup ? ui.replace(current, QStringLiteral("\\1#\\2")) : ui;
+}
+
+// What the edited widget shows when the run-time loader builds the form, without Designer.
+QStringList shownAtRunTime(const Family &family, const QString &ui)
+{
+    QBuffer buffer;
+    buffer.setData(ui.toUtf8());
+    buffer.open(QIODevice::ReadOnly);
+    QScopedPointer<QWidget> form(VoCc::FormBuilder().load(&buffer));
+    QWidget *widget = form ? form->findChild<QWidget *>(QStringLiteral("edited")) : nullptr;
+    return widget ? family.shown(widget) : QStringList({"<not loaded>"});
+}
+
+// Random sessions: steps and the actions in an editor are letters, as describe() spells them.
+struct Action
+{
+    char act;
+    int a, b;
+    QString text;
+};
+struct Step
+{
+    char kind;
+    int count; // undo or redo steps
+    bool accept;
+    QVector<Action> actions;
+};
+struct Session
+{
+    quint32 seed;
+    int family;
+    QVector<Step> steps;
+};
+
+QString describe(const Session &session)
+{
+    QString text = QStringLiteral("seed %1, %2 (steps E edit, U undo, R redo, L save and load; "
+                                  "actions s select, n new, d delete, u up, D down, r rename, "
+                                  "p property, i icon, R rows, C columns, c cell):")
+                           .arg(session.seed)
+                           .arg(QLatin1String(families[session.family].className));
+    for (const Step &step : session.steps) {
+        text += QStringLiteral("\n  %1 x%2").arg(QLatin1Char(step.kind)).arg(step.count);
+        for (const Action &action : step.actions)
+            text += QStringLiteral(" %1(%2,%3,%4)")
+                            .arg(QLatin1Char(action.act))
+                            .arg(action.a)
+                            .arg(action.b)
+                            .arg(action.text);
+        if (!step.accept)
+            text += QStringLiteral(" Cancel");
+    }
+    return text;
+}
+
+// Texts a form author might type, XML's special characters and non-ASCII letters among them.
+const char *const words[] = {"x", "Zwölf", "a&b", "<tag>", "\"q\"", "two words", "y'z", "Ende"};
+
+Session generate(quint32 seed)
+{
+    QRandomGenerator random(seed);
+    Session session {seed, int(random.bounded(familyCount)), {}};
+    // Weighted choices of what a user does in the editor.
+    const QByteArray acts = families[session.family].list ? "sssnnndduDrrppp" : "RRCCcccrrppp";
+    const int steps = 1 + int(random.bounded(5));
+    for (int s = 0; s < steps; ++s) {
+        const int kind = int(random.bounded(20));
+        if (kind < 6) {
+            const char stepKind = "UUURRL"[kind];
+            session.steps.append(
+                    {stepKind, stepKind == 'L' ? 0 : 1 + int(random.bounded(3)), true, {}});
+            continue;
+        }
+        Step step {'E', 0, random.bounded(5) != 0, {}};
+        const int actions = 1 + int(random.bounded(8));
+        for (int i = 0; i < actions; ++i) {
+            char act = acts.at(random.bounded(acts.size()));
+            if (random.bounded(40) == 0)
+                act = 'i'; // rare: the file dialog is slow
+            step.actions.append({act, int(random.bounded(100)), int(random.bounded(100)),
+                                 QString::fromUtf8(words[random.bounded(int(std::size(words)))])
+                                         + QString::number(random.bounded(10))});
+        }
+        session.steps.append(step);
+    }
+    return session;
+}
+
+// One action as the dialog is now; one that needs what is not there (a row to select in an
+// empty list, a current item to rename) is passed over, as a user could not do it either.
+void act(Driver &dialog, const Family &family, const Action &action)
+{
+    const int rows = dialog.list() ? dialog.list()->count() : dialog.table()->rowCount();
+    const int columns = dialog.table() ? dialog.table()->columnCount() : 1;
+    const bool current = dialog.list()
+            ? dialog.list()->currentRow() >= 0
+            : dialog.table()->currentRow() >= 0 && dialog.table()->currentColumn() >= 0;
+    const bool pane = !dialog.propertyNames().isEmpty();
+    const QStringList strings = family.properties.filter(QRegularExpression("^(?!icon$)"));
+    switch (action.act) {
+    case 's':
+        if (rows > 0)
+            dialog.select(action.a % rows);
+        break;
+    case 'n':
+        dialog.addRow(action.text);
+        break;
+    case 'd':
+    case 'u':
+    case 'D':
+        dialog.click(action.act == 'd'           ? "deleteListItemButton"
+                             : action.act == 'u' ? "moveListItemUpButton"
+                                                 : "moveListItemDownButton");
+        break;
+    case 'r':
+        if (current)
+            dialog.renameCurrent(action.text);
+        break;
+    case 'p':
+        if (pane)
+            dialog.typeProperty(strings.at(action.a % strings.size()), action.text);
+        break;
+    case 'i':
+        if (pane && family.properties.contains(QStringLiteral("icon")))
+            dialog.chooseIconFile(QStringLiteral("icon"), testIcon);
+        break;
+    case 'R':
+    case 'C':
+        dialog.stepTo(action.act == 'R' ? "rowCounts" : "colCounts", 1 + action.a % 5);
+        break;
+    case 'c':
+        if (rows > 0 && columns > 0)
+            dialog.selectCell(action.a % rows, action.b % columns);
+        break;
+    }
+}
+
+// Warnings raised while a session runs; the offscreen platform's own notes are not ours.
+QStringList warnings;
+QtMessageHandler previousHandler = nullptr;
+void collectWarnings(QtMsgType type, const QMessageLogContext &context, const QString &message)
+{
+    if (message.contains(QLatin1String("propagateSizeHints")))
+        return;
+    if (type != QtDebugMsg && type != QtInfoMsg)
+        warnings << message;
+    previousHandler(type, context, message);
+}
+
+// The first promise a form breaks after a step, or an empty text.
+QString brokenPromise(QDesignerFormWindowInterface *form, const Family &family,
+                      const QString &start, const QString &lastEdit)
+{
+    const QString now = form->contents();
+    const QStringList shown = family.shown(editedWidget(form));
+    if (shown != shownAtRunTime(family, now))
+        return QStringLiteral("the widget shows %1, its form says %2")
+                .arg(shown.join(QLatin1Char('|')),
+                     shownAtRunTime(family, now).join(QLatin1Char('|')));
+    QDesignerFormWindowInterface *loaded = createFormWindow(now);
+    const QString saved = loaded->contents();
+    closeFormWindow(loaded);
+    if (saved != now)
+        return QStringLiteral("loading and saving the form changes it:\n%1\n---\n%2")
+                .arg(now, saved);
+    QUndoStack *history = form->commandHistory();
+    const int index = history->index();
+    history->setIndex(0);
+    const QString undone = form->contents();
+    history->setIndex(history->count());
+    const QString redone = form->contents();
+    history->setIndex(index);
+    if (comparable(family, undone) != comparable(family, start))
+        return QStringLiteral("undoing everything gives\n%1\n---instead of\n%2").arg(undone, start);
+    if (comparable(family, redone) != comparable(family, lastEdit))
+        return QStringLiteral("redoing everything gives\n%1\n---instead of\n%2")
+                .arg(redone, lastEdit);
+    if (comparable(family, form->contents()) != comparable(family, now))
+        return QStringLiteral("undoing and redoing to the same place changes the form");
+    if (!warnings.isEmpty())
+        return QStringLiteral("warned: ") + warnings.join(QStringLiteral(" | "));
+    return QString();
+}
+
+QString runSession(const Session &session)
+{
+    const Family &family = families[session.family];
+    QDesignerFormWindowInterface *form = createFormWindow(familyForm(family));
+    QString start = form->contents(), lastEdit = start;
+    settle();
+    const int dialogs = dialogCount();
+    QString broken;
+    for (int i = 0; i < session.steps.size() && broken.isEmpty(); ++i) {
+        const Step &step = session.steps.at(i);
+        QUndoStack *history = form->commandHistory();
+        const int before = history->index();
+        warnings.clear();
+        if (step.kind == 'U' || step.kind == 'R')
+            history->setIndex(qBound(0, before + (step.kind == 'U' ? -step.count : step.count),
+                                     history->count()));
+        if (step.kind == 'L') {
+            const QString ui = form->contents();
+            closeFormWindow(form);
+            form = createFormWindow(ui);
+            start = lastEdit = form->contents();
+        }
+        if (step.kind == 'E') {
+            edit(
+                    editedWidget(form),
+                    [&](Driver &dialog) {
+                        for (const Action &action : step.actions)
+                            act(dialog, family, action);
+                    },
+                    step.accept);
+            if (history->index() != before)
+                lastEdit = form->contents();
+        }
+        settle();
+        broken = brokenPromise(form, family, start, lastEdit);
+        if (broken.isEmpty() && dialogCount() != dialogs)
+            broken = QStringLiteral("an editor outlived its edit");
+        if (broken.isEmpty() && QTest::currentTestFailed())
+            broken = QStringLiteral("the dialog did not behave as expected");
+        if (!broken.isEmpty())
+            broken = QStringLiteral("after step %1: %2").arg(i + 1).arg(broken);
+    }
+    closeFormWindow(form);
+    return broken;
+}
+
+// The smallest session found by leaving out steps, then actions, that still fails.
+Session shrink(Session session)
+{
+    for (int i = session.steps.size() - 1; i >= 0; --i) {
+        Session smaller = session;
+        smaller.steps.remove(i);
+        if (!runSession(smaller).isEmpty())
+            session = smaller;
+    }
+    for (int s = 0; s < session.steps.size(); ++s) {
+        for (int i = session.steps.at(s).actions.size() - 1; i >= 0; --i) {
+            Session smaller = session;
+            smaller.steps[s].actions.remove(i);
+            if (!runSession(smaller).isEmpty())
+                session = smaller;
+        }
+    }
+    return session;
+}
+
+} // namespace
+
 class TestItemEditing : public QObject
 {
     Q_OBJECT
+    TestPictures m_pictures;
+
 private slots:
-    void initTestCase();
-    void init()
+    void initTestCase()
     {
-        CcTest::settle();
-        m_dialogs = dialogCount();
+        usePluginModulesOnly({QStringLiteral(CC_PLUGIN_MODULE)});
+        QVERIFY(designerCore());
+        testIcon = m_pictures.red;
+        QVERIFY(!testIcon.isEmpty());
     }
-    void cleanup();
 
-    void editingThroughTheContextMenu_data();
-    void editingThroughTheContextMenu();
-    void pageGroupKeepsItsPageObjects();
-    void entriesAndFactories();
+    void editingThroughTheContextMenu_data()
+    {
+        QTest::addColumn<int>("index");
+        for (int i = 0; i < familyCount; ++i)
+            QTest::newRow(families[i].className) << i;
+    }
 
-private:
-    CcTest::TestPictures m_pictures;
-    int m_dialogs = 0;
-};
-
-void TestItemEditing::initTestCase()
-{
-    CcTest::usePluginModulesOnly({QStringLiteral(CC_PLUGIN_MODULE)});
-    QVERIFY(CcTest::designerCore());
-    testIcon = m_pictures.red;
-    QVERIFY(!testIcon.isEmpty());
-}
-
-void TestItemEditing::cleanup()
-{
-    // Nothing of an edit outlives it: no dialog, no editor.
-    CcTest::settle();
-    QCOMPARE(dialogCount(), m_dialogs);
-}
-
-void TestItemEditing::editingThroughTheContextMenu_data()
-{
-    QTest::addColumn<int>("index");
-    for (int i = 0; i < familyCount(); ++i)
-        QTest::newRow(family(i).className) << i;
-}
-
-void TestItemEditing::editingThroughTheContextMenu()
-{
-    QFETCH(int, index);
-    const Family &family = CcTest::family(index);
-    QDesignerFormWindowInterface *form =
-            CcTest::createFormWindow(familyForm(family, family.entriesXml));
-    const auto closeForm = qScopeGuard([form] { CcTest::closeFormWindow(form); });
-    QWidget *widget = editedWidget(form);
-    QVERIFY(widget);
-    QCOMPARE(family.shown(widget), family.opened);
-    // The page group is left on its last page by every change; that is all Undo may leave
-    // different.
-    const bool pageGroup = isPageGroup(family);
-    auto comparable = [pageGroup](const QString &ui) {
-        return pageGroup ? withoutCurrentPage(ui) : ui;
-    };
-    QUndoStack *history = form->commandHistory();
-    form->setDirty(false);
-    const QString before = form->contents();
-
-    // The editor opens on the widget's entries; Cancel after a change and OK without one
-    // leave the form alone.
-    QVERIFY(edit(
-            widget,
-            [&](Driver &dialog) {
-                QCOMPARE(dialog.table() ? dialog.table()->window()->windowTitle()
-                                        : dialog.list()->window()->windowTitle(),
-                         QLatin1String(family.title));
-                QCOMPARE(dialog.propertyNames(), family.properties);
-                family.whenOpened(dialog);
-                family.changedAndCancelled(dialog);
-            },
-            false));
-    QVERIFY(edit(widget, family.changedBack));
-    QCOMPARE(history->count(), 0);
-    QVERIFY(!form->isDirty());
-
-    QVERIFY(edit(widget, family.edit));
-    QCOMPARE(history->count(), family.pushes);
-    QCOMPARE(history->text(0), QLatin1String(family.command));
-    QVERIFY(form->isDirty());
-    QCOMPARE(family.shown(widget), family.edited);
-
-    // The saved form holds the entries; another form window loads and saves it unchanged,
-    // and the run-time loader shows the same.
-    const QString after = form->contents();
-    // Designer writes icon paths relative to where the form would be saved.
-    const QFileInfo icon(testIcon);
-    const QString iconPath = icon.dir().dirName() + QLatin1Char('/') + icon.fileName();
-    for (QString value : family.saved)
-        QVERIFY2(after.contains(value.replace(QLatin1String("@icon"), iconPath)),
-                 qPrintable(value));
-    for (const QString &value : family.notSaved)
-        QVERIFY2(!after.contains(value), qPrintable(value));
-    QDesignerFormWindowInterface *reloaded = CcTest::createFormWindow(after);
-    QCOMPARE(reloaded->contents(), after);
-    CcTest::closeFormWindow(reloaded);
-    QCOMPARE(shownAtRunTime(after, family.shown), family.edited);
-
-    // Undoing what the edit pushed gives back the form as it was, to the byte; Redo the
-    // edited one.
-    for (int i = 0; i < family.pushes; ++i)
-        history->undo();
-    QCOMPARE(family.shown(widget), family.opened);
-    QCOMPARE(comparable(form->contents()), comparable(before));
-    for (int i = 0; i < family.pushes; ++i)
-        history->redo();
-    QCOMPARE(family.shown(widget), family.edited);
-    QCOMPARE(form->contents(), after);
-    // The change command alone: a button matrix keeps its new counts.
-    auto *change = const_cast<QUndoCommand *>(history->command(0));
-    change->undo();
-    QCOMPARE(family.shown(widget), family.changeUndone);
-    change->redo();
-    QCOMPARE(form->contents(), after);
-}
-
-void TestItemEditing::pageGroupKeepsItsPageObjects()
-{
-    const Family &family = pageGroupFamily();
-    QDesignerFormWindowInterface *form =
-            CcTest::createFormWindow(familyForm(family, family.entriesXml));
-    const auto closeForm = qScopeGuard([form] { CcTest::closeFormWindow(form); });
-    auto *group = qobject_cast<VoCc::DrawbackBoxGroup *>(editedWidget(form));
-    QVERIFY(group);
-    auto pages = [group] {
-        QWidgetList list;
-        for (int i = 0; i < group->count(); ++i)
-            list.append(group->widget(i));
-        return list;
-    };
-    const QWidgetList original = pages();
-    const int boxes = group->findChildren<VoCc::DrawbackBox *>().size();
-
-    // Up then down, and an insert deleted again, come back to the pages as they were: nothing
-    // is pushed and no page is made.
-    QVERIFY(edit(group, [](Driver &dialog) {
-        dialog.select(1);
-        dialog.click("moveListItemUpButton");
-        dialog.click("moveListItemDownButton");
-        dialog.addRow(QStringLiteral("Gone"));
-        dialog.click("deleteListItemButton");
-    }));
-    QCOMPARE(form->commandHistory()->count(), 0);
-    QCOMPARE(group->findChildren<VoCc::DrawbackBox *>().size(), boxes);
-
-    // A move keeps the page objects; new rows become new pages with names of their own, and
-    // Undo and Redo move the same objects back and forth.
-    QVERIFY(edit(group, [](Driver &dialog) {
-        dialog.select(2);
-        dialog.click("moveListItemUpButton");
-        dialog.addRow(QStringLiteral("New1"));
-        dialog.addRow(QStringLiteral("New2"));
-    }));
-    const QWidgetList edited = pages();
-    QCOMPARE(edited.size(), 5);
-    QCOMPARE(edited.mid(0, 2), QWidgetList({original.at(0), original.at(2)}));
-    QCOMPARE(edited.at(4), original.at(1));
-    QCOMPARE(family.shown(group), QStringList({"A", "C", "New1", "New2", "B"}));
-    QVERIFY(!original.contains(edited.at(2)) && !original.contains(edited.at(3)));
-    QVERIFY(edited.at(2)->objectName().startsWith(QLatin1String("page")));
-    QVERIFY(edited.at(2)->objectName() != edited.at(3)->objectName());
-    QCOMPARE(group->currentIndex(), 4);
-    form->commandHistory()->undo();
-    QCOMPARE(pages(), original);
-    QCOMPARE(group->currentIndex(), 2);
-    form->commandHistory()->redo();
-    QCOMPARE(pages(), edited);
-}
-
-void TestItemEditing::entriesAndFactories()
-{
-    QWidget standalone;
-    for (int i = 0; i < familyCount(); ++i) {
-        const Family &family = CcTest::family(i);
-        QScopedPointer<QWidget> widget(VoCc::FormBuilder::createCommonControl(
-                QLatin1String(family.className), &standalone));
+    void editingThroughTheContextMenu()
+    {
+        QFETCH(int, index);
+        const Family &family = families[index];
+        const Script *scripts = family.list ? listScripts : matrixScripts;
+        QDesignerFormWindowInterface *form = createFormWindow(familyForm(family));
+        const auto closeForm = qScopeGuard([form] { closeFormWindow(form); });
+        QWidget *widget = editedWidget(form);
         QVERIFY(widget);
-        QDesignerTaskMenuExtension *menu = taskMenuOf(widget.data());
-        QVERIFY2(menu, family.className);
-        auto *menuObject = dynamic_cast<QObject *>(menu);
-        // Its own class, answering to the interface by name and by identifier, with one
-        // entry and one slot.
-        const QMetaObject *meta = menuObject->metaObject();
-        QCOMPARE(meta->className(), family.taskMenu);
-        QCOMPARE(menuObject->qt_metacast("QDesignerTaskMenuExtension"), static_cast<void *>(menu));
-        QCOMPARE(menuObject->qt_metacast("org.qt-project.Qt.Designer.TaskMenu"),
-                 static_cast<void *>(menu));
-        QCOMPARE(meta->methodCount() - meta->methodOffset(), 1);
-        QCOMPARE(meta->method(meta->methodOffset()).methodSignature(), QByteArray("editItems()"));
-        QCOMPARE(menu->taskActions(), QList<QAction *>({menu->preferredEditAction()}));
-        QCOMPARE(menu->preferredEditAction()->text(), QLatin1String(family.entry));
+        QCOMPARE(family.shown(widget), family.opened);
+        QUndoStack *history = form->commandHistory();
+        form->setDirty(false);
 
-        auto *factory = qobject_cast<QExtensionFactory *>(menuObject->parent());
-        QVERIFY(factory);
-        QCOMPARE(factory->metaObject()->className(), family.factory);
-        QVERIFY(!factory->extension(widget.data(), QString(Q_TYPEID(QDesignerContainerExtension))));
-        QVERIFY(!factory->extension(&standalone, QString(Q_TYPEID(QDesignerTaskMenuExtension))));
+        // The editor opens on the widget's entries; Cancel after a change and OK without one
+        // leave the form alone.
+        QVERIFY(edit(
+                widget,
+                [&](Driver &dialog) {
+                    QCOMPARE(dialog.dialog()->windowTitle(), QLatin1String(family.title));
+                    QCOMPARE(dialog.propertyNames(), family.properties);
+                    scripts[0](dialog);
+                },
+                false));
+        QVERIFY(edit(widget, scripts[1]));
+        QCOMPARE(history->count(), 0);
+        QVERIFY(!form->isDirty());
 
-        // A widget on no form window: the entry opens nothing.
-        QVERIFY(!edit(widget.data(), [](Driver &) {}));
+        QVERIFY(edit(widget, scripts[2]));
+        QCOMPARE(history->count(), family.pushes);
+        QCOMPARE(history->text(0), QLatin1String(family.command));
+        QVERIFY(form->isDirty());
+        QCOMPARE(family.shown(widget), family.edited);
+
+        // The saved form holds the values set. Designer writes icon paths relative to where
+        // the form would be saved.
+        const QString after = form->contents();
+        const QFileInfo icon(testIcon);
+        const QString iconPath = icon.dir().dirName() + QLatin1Char('/') + icon.fileName();
+        for (QString value : family.saved)
+            QVERIFY2(after.contains(value.replace(QLatin1String("@icon"), iconPath)),
+                     qPrintable(value));
+        for (const QString &value : family.notSaved)
+            QVERIFY2(!after.contains(value), qPrintable(value));
+
+        // The change command alone: a button matrix keeps its new counts.
+        auto *change = const_cast<QUndoCommand *>(history->command(0));
+        change->undo();
+        QCOMPARE(family.shown(widget), family.changeUndone);
+        change->redo();
+        QCOMPARE(form->contents(), after);
     }
-}
+
+    void pageGroupKeepsItsPageObjects()
+    {
+        QDesignerFormWindowInterface *form = createFormWindow(familyForm(pageGroupFamily));
+        const auto closeForm = qScopeGuard([form] { closeFormWindow(form); });
+        auto *group = qobject_cast<VoCc::DrawbackBoxGroup *>(editedWidget(form));
+        QVERIFY(group);
+        auto pages = [group] {
+            QWidgetList list;
+            for (int i = 0; i < group->count(); ++i)
+                list.append(group->widget(i));
+            return list;
+        };
+        const QWidgetList original = pages();
+        const int boxes = group->findChildren<VoCc::DrawbackBox *>().size();
+
+        // Up then down, and an insert deleted again, come back to the pages as they were:
+        // nothing is pushed and no page is made.
+        QVERIFY(edit(group, [](Driver &dialog) {
+            dialog.select(1);
+            dialog.click("moveListItemUpButton");
+            dialog.click("moveListItemDownButton");
+            dialog.addRow(QStringLiteral("Gone"));
+            dialog.click("deleteListItemButton");
+        }));
+        QCOMPARE(form->commandHistory()->count(), 0);
+        QCOMPARE(group->findChildren<VoCc::DrawbackBox *>().size(), boxes);
+
+        // A move keeps the page objects; new rows become new pages with names of their own,
+        // and Undo and Redo move the same objects back and forth.
+        QVERIFY(edit(group, [](Driver &dialog) {
+            dialog.select(2);
+            dialog.click("moveListItemUpButton");
+            dialog.addRow(QStringLiteral("New1"));
+            dialog.addRow(QStringLiteral("New2"));
+        }));
+        const QWidgetList edited = pages();
+        QCOMPARE(edited.size(), 5);
+        QCOMPARE(edited.mid(0, 2), QWidgetList({original.at(0), original.at(2)}));
+        QCOMPARE(edited.at(4), original.at(1));
+        QCOMPARE(shownByPageGroup(group), QStringList({"A", "C", "New1", "New2", "B"}));
+        QVERIFY(!original.contains(edited.at(2)) && !original.contains(edited.at(3)));
+        QVERIFY(edited.at(2)->objectName().startsWith(QLatin1String("page")));
+        QVERIFY(edited.at(2)->objectName() != edited.at(3)->objectName());
+        QCOMPARE(group->currentIndex(), 4);
+        form->commandHistory()->undo();
+        QCOMPARE(pages(), original);
+        QCOMPARE(group->currentIndex(), 2);
+        form->commandHistory()->redo();
+        QCOMPARE(pages(), edited);
+    }
+
+    // Each family's context menu: one entry, from its own factory, serving task menus of
+    // its class only; on no form window the entry opens nothing.
+    void entriesAndFactories()
+    {
+        QWidget standalone;
+        for (const Family &family : families) {
+            QScopedPointer<QWidget> widget(VoCc::FormBuilder::createCommonControl(
+                    QLatin1String(family.className), &standalone));
+            QDesignerTaskMenuExtension *menu = taskMenuOf(widget.data());
+            QVERIFY2(menu, family.className);
+            const QMetaObject *meta = dynamic_cast<QObject *>(menu)->metaObject();
+            QCOMPARE(meta->methodCount() - meta->methodOffset(), 1);
+            QCOMPARE(menu->taskActions(), QList<QAction *>({menu->preferredEditAction()}));
+            QCOMPARE(menu->preferredEditAction()->text(), QLatin1String(family.entry));
+            auto *factory =
+                    qobject_cast<QExtensionFactory *>(dynamic_cast<QObject *>(menu)->parent());
+            QVERIFY(factory);
+            QVERIFY(!factory->extension(widget.data(), Q_TYPEID(QDesignerContainerExtension)));
+            QVERIFY(!factory->extension(&standalone, Q_TYPEID(QDesignerTaskMenuExtension)));
+            QVERIFY(!edit(widget.data(), [](Driver &) {}));
+        }
+    }
+
+    void randomSessions()
+    {
+        previousHandler = qInstallMessageHandler(collectWarnings);
+        const auto restore = qScopeGuard([] { qInstallMessageHandler(previousHandler); });
+        const int sessions = qEnvironmentVariableIsSet("CC_RANDOM_SESSIONS")
+                ? qEnvironmentVariableIntValue("CC_RANDOM_SESSIONS")
+                : 300;
+        const auto seed = quint32(qEnvironmentVariableIsSet("CC_RANDOM_SEED")
+                                          ? qEnvironmentVariableIntValue("CC_RANDOM_SEED")
+                                          : 1);
+        QElapsedTimer clock;
+        clock.start();
+        for (int i = 0; i < sessions; ++i) {
+            const Session session = generate(seed + quint32(i));
+            const QString broken = runSession(session);
+            if (!broken.isEmpty()) {
+                const Session small = shrink(session);
+                QFAIL(qPrintable(QStringLiteral("%1\nshrunk to %2\n%3")
+                                         .arg(broken, describe(small), runSession(small))));
+            }
+        }
+        qInfo("%d sessions, %lld s", sessions, clock.elapsed() / 1000);
+    }
+};
 
 QTEST_MAIN(TestItemEditing)
 #include "tst_itemediting.moc"
