@@ -1,3 +1,9 @@
+// The module loaded into a real Designer core: one collection, the 44 plug-ins in order, each
+// with the descriptions and default XML the widget box relies on. Then the plug-ins at work on
+// forms: their slots, driven by the Designer signals they listen to; the page group as a
+// multi-page container, driven by Designer's own page commands; and the extra-info extension
+// that every widget gets.
+
 #include "designertestcore.h"
 
 #include <nui/CommonControls/CcDrawbackBoxGroup.hpp>
@@ -16,6 +22,7 @@
 #include <QDesignerTaskMenuExtension>
 #include <QExtensionFactory>
 #include <QExtensionManager>
+#include <QFile>
 #include <QLayout>
 #include <QScopeGuard>
 #include <QUndoStack>
@@ -24,11 +31,93 @@
 #include <QtDesigner/private/qtresourcemodel_p.h>
 #include <QtDesigner/private/shared_enums_p.h>
 #include <QtTest>
+#include <QtUiPlugin/QDesignerCustomWidgetCollectionInterface>
 #include <QtUiPlugin/QDesignerCustomWidgetInterface>
 
 using namespace qdesigner_internal;
 
 namespace {
+
+enum DefaultXml { Lf, NoLf, Special };
+
+// What the widget box must show for each plug-in, in the collection's order, written down
+// independently of the plug-in's own table. A special default text is in data/<name>.xml.
+struct Widget
+{
+    const char *name; // after "VoCc::"
+    bool templateGroup;
+    const char *includeFile; // after "nui/CommonControls/"
+    bool container;
+    DefaultXml xml;
+    const char *objectName; // of the standard default text
+};
+
+// clang-format off
+constexpr Widget widgets[] = {
+    {"Angle", true, "Template/CcAngle.hpp", false, Lf, "Angle"},
+    {"CmdButton", true, "Template/CcCmdButton.hpp", false, Lf, "CmdButton"},
+    {"Color", true, "Template/CcColor.hpp", false, Lf, "Color"},
+    {"ColorTransfer", true, "Template/ColorTransfer.hpp", false, Lf, "ColorTransfer"},
+    {"Distance", true, "Template/CcDistance.hpp", false, Lf, "Distance"},
+    {"Entity", true, "Template/CcEntity.hpp", false, Lf, "Entity"},
+    {"EntityList", true, "Template/CcEntityList.hpp", false, Lf, "EntityList"},
+    {"PinEntity", true, "Template/CcPinEntity.hpp", false, Lf, "PinEntity"},
+    {"PinEntityList", true, "Template/CcPinEntityList.hpp", false, Lf, "PinEntityList"},
+    {"FormProxy", false, "CcFormProxy.hpp", false, Lf, "formProxy"},
+    {"Number", true, "Template/CcNumber.hpp", false, Lf, "Number"},
+    {"OptionButtons", true, "template/CcOptionButtons.hpp", false, Lf, "OptionButtons"},
+    {"OptionCheckBox", true, "template/CcOptionCheckBox.hpp", false, Special, nullptr},
+    {"OptionComboBox", true, "template/CcOptionComboBox.hpp", false, Lf, "OptionComboBox"},
+    {"OptionRadios", true, "template/CcOptionRadios.hpp", false, Lf, "OptionRadios"},
+    {"Point", true, "Template/CcPoint.hpp", false, Lf, "Point"},
+    {"Slider", true, "Template/CcSlider.hpp", false, Lf, "Slider"},
+    {"String", true, "Template/CcString.hpp", false, Lf, "String"},
+    {"Window", true, "Template/CcWindow.hpp", false, Lf, "Window"},
+    {"CheckableTextComboBox", false, "CcLineEditEx.hpp", false, Lf, "checkableTextComboBox"},
+    {"ColorButton", false, "CcColorButton.hpp", false, Lf, "colorButton"},
+    {"ColorPanel", false, "CcColorPanel.hpp", false, Lf, "colorPanel"},
+    {"ColorPicker", false, "CcColorPicker.hpp", false, Lf, "colorPicker"},
+    {"ComboBox", false, "CcComboBox.hpp", false, Lf, "comboBox"},
+    {"DrawbackBoxGroup", false, "CcDrawbackBoxGroup.hpp", true, Special, nullptr},
+    {"Form", false, "CcForm.hpp", true, Special, nullptr},
+    {"Line", false, "CcLine.hpp", false, Special, nullptr},
+    {"LineEditBtn", false, "CcLineEditEx.hpp", false, NoLf, "lineEditBtn"},
+    {"LineEditEx", false, "CcLineEditEx.hpp", false, NoLf, "lineEditEx"},
+    {"LineType", false, "CcLineType.hpp", false, Lf, "lineType"},
+    {"LineWidth", false, "CcLineWidth.hpp", false, Lf, "lineWidth"},
+    {"ListView", false, "CcListView.hpp", false, NoLf, "listView"},
+    {"ListWidget", false, "CcListWidget.hpp", false, NoLf, "listWidget"},
+    {"MatrixCheckBoxes", false, "CcMatrixButtons.hpp", false, Lf, "matrixCheckBoxes"},
+    {"MatrixPopButtons", false, "CcMatrixPopButtons.hpp", false, Special, nullptr},
+    {"MatrixPushButtons", false, "CcMatrixButtons.hpp", false, Lf, "matrixPushButtons"},
+    {"MatrixRadioButtons", false, "CcMatrixButtons.hpp", false, Lf, "matrixRadioButtons"},
+    {"Pane", false, "CcPane.hpp", true, Special, nullptr},
+    {"RealNumberEdit", false, "CcRealNumberEdit.hpp", false, Lf, "realNumberEdit"},
+    {"RealNumberSlider", false, "CcRealNumber.hpp", false, NoLf, "realNumberSlider"},
+    {"SelectList", false, "CcSelectList.hpp", false, NoLf, "selectList"},
+    {"TableWidget", false, "CcTableWidget.hpp", false, NoLf, "tableWidget"},
+    {"TextEdit", false, "CcTextEdit.hpp", false, Lf, "TextEdit"},
+    {"TreeView", false, "CcTreeView.hpp", false, NoLf, "treeView"},
+};
+// clang-format on
+constexpr int widgetCount = int(std::size(widgets));
+
+QString className(const Widget &w) { return QLatin1String("VoCc::") + QLatin1String(w.name); }
+
+QString expectedXml(const Widget &w)
+{
+    if (w.xml == Special) {
+        QFile file(QStringLiteral(CC_PLUGIN_TEST_DATA "/%1.xml").arg(QLatin1String(w.name)));
+        return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+    }
+    return QStringLiteral("<widget class=\"%1\" name=\"%2\">\n"
+                          " <property name=\"id\" stdset=\"0\">\n"
+                          "  <number></number>\n"
+                          " </property>\n"
+                          "</widget>%3")
+            .arg(className(w), QLatin1String(w.objectName),
+                 w.xml == Lf ? QStringLiteral("\n") : QString());
+}
 
 // Counts the slot calls that reach one object, through Qt's signal-spy hooks: the repaints
 // a plug-in asks for are merged by Qt, so only its slot runs can be counted.
@@ -51,16 +140,6 @@ public:
     }
 };
 
-QObject *pluginObject(const char *pluginClass)
-{
-    const QObjectList plugins = CcTest::designerCore()->pluginInstances().constFirst()->children();
-    for (QObject *plugin : plugins) {
-        if (qstrcmp(plugin->metaObject()->className(), pluginClass) == 0)
-            return plugin;
-    }
-    return nullptr;
-}
-
 QString widgetXml(const char *className, const char *name, const QString &inner = QString())
 {
     return QStringLiteral("<widget class=\"%1\" name=\"%2\">%3</widget>\n")
@@ -79,14 +158,6 @@ QString groupForm(const QString &pages)
                            QStringLiteral("<customwidget><class>VoCc::DrawbackBoxGroup</class>"
                                           "<extends>QWidget</extends>"
                                           "<addpagemethod>addPage</addpagemethod></customwidget>"));
-}
-
-QStringList debugLines;
-
-void collectDebug(QtMsgType type, const QMessageLogContext &, const QString &message)
-{
-    if (type == QtDebugMsg)
-        debugLines << message;
 }
 
 QWidgetList pagesOf(const VoCc::DrawbackBoxGroup *group)
@@ -108,14 +179,77 @@ const QString formWithExtras = CcTest::formXml(QStringLiteral(
 
 } // namespace
 
-// The plug-ins at work on real Designer forms: their slots, driven by the Designer signals
-// they listen to; the page group as a multi-page container, driven by Designer's own page
-// commands; and every widget's extra data going through the library's form builder.
-class TestPluginOnForms : public QObject
+class TestPluginInDesigner : public QObject
 {
     Q_OBJECT
+    QObject *m_collection = nullptr;
+    QList<QDesignerCustomWidgetInterface *> m_widgets;
+
+    QObject *pluginObject(const char *pluginClass) const
+    {
+        for (QObject *plugin : m_collection->children()) {
+            if (qstrcmp(plugin->metaObject()->className(), pluginClass) == 0)
+                return plugin;
+        }
+        return nullptr;
+    }
+
 private slots:
-    void initTestCase() { CcTest::usePluginModulesOnly({QStringLiteral(CC_PLUGIN_MODULE)}); }
+    void initTestCase()
+    {
+        CcTest::usePluginModulesOnly({QStringLiteral(CC_PLUGIN_MODULE)});
+        QCOMPARE(CcTest::designerCore()->pluginInstances().size(), 1);
+        m_collection = CcTest::designerCore()->pluginInstances().constFirst();
+        auto *collection = qobject_cast<QDesignerCustomWidgetCollectionInterface *>(m_collection);
+        QVERIFY(collection);
+        m_widgets = collection->customWidgets();
+    }
+
+    // The same 44 plug-ins in the same order on every call, the collection's children, each
+    // of its own class.
+    void loadsOneCollection()
+    {
+        auto *collection = qobject_cast<QDesignerCustomWidgetCollectionInterface *>(m_collection);
+        QCOMPARE(m_widgets.size(), widgetCount);
+        QCOMPARE(collection->customWidgets(), m_widgets);
+        const QObjectList plugins = m_collection->children();
+        QCOMPARE(plugins.size(), widgetCount);
+        for (int i = 0; i < widgetCount; ++i) {
+            QCOMPARE(QLatin1String(plugins.at(i)->metaObject()->className()),
+                     QLatin1String(widgets[i].name) + QLatin1String("Plugin"));
+            QCOMPARE(plugins.at(i)->qt_metacast(QDesignerCustomWidgetInterface_iid),
+                     static_cast<void *>(m_widgets.at(i)));
+        }
+    }
+
+    void eachWidget_data()
+    {
+        QTest::addColumn<int>("index");
+        for (int i = 0; i < widgetCount; ++i)
+            QTest::newRow(widgets[i].name) << i;
+    }
+
+    // The descriptions the widget box shows, and the default XML it drops onto a form.
+    void eachWidget()
+    {
+        QFETCH(int, index);
+        const Widget &w = widgets[index];
+        QDesignerCustomWidgetInterface *plugin = m_widgets.at(index);
+        const QString name = className(w);
+        QCOMPARE(plugin->name(), name);
+        QCOMPARE(plugin->group(),
+                 w.templateGroup ? QStringLiteral("Tarn Template Widgets")
+                                 : QStringLiteral("Tarn Widgets"));
+        QCOMPARE(plugin->includeFile(),
+                 QLatin1String("nui/CommonControls/") + QLatin1String(w.includeFile));
+        QCOMPARE(plugin->isContainer(), w.container);
+        QCOMPARE(plugin->toolTip(),
+                 name == QLatin1String("VoCc::Pane") ? QStringLiteral("Tarn Collapsible Pane")
+                                                     : QString());
+        // The page group answers with a null text, the others with an empty one.
+        QCOMPARE(plugin->toolTip().isNull(), name == QLatin1String("VoCc::DrawbackBoxGroup"));
+        QCOMPARE(plugin->domXml(), expectedXml(w));
+    }
 
     void propertyEditsRepaintOncePerCreatedWidget()
     {
@@ -274,17 +408,14 @@ private slots:
         QCOMPARE(pagesOf(group), pages);
 
         // Every switch is traced, also one to the page already current.
-        debugLines.clear();
-        QtMessageHandler previous = qInstallMessageHandler(collectDebug);
+        for (int i = 0; i < 2; ++i)
+            QTest::ignoreMessage(QtDebugMsg,
+                                 "DrawbackBoxGroupContainerExtension::currentIndexChanged 2");
         auto *change = new ChangeCurrentPageCommand(form);
         change->init(group, 2);
         history->push(change);
         container->setCurrentIndex(2);
-        qInstallMessageHandler(previous);
         QCOMPARE(container->currentIndex(), 2);
-        QCOMPARE(debugLines.count(QStringLiteral(
-                         "DrawbackBoxGroupContainerExtension::currentIndexChanged 2")),
-                 2);
 
         // The extension's own operations go straight to the group.
         auto *inserted = new QWidget;
@@ -334,5 +465,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(TestPluginOnForms)
-#include "tst_pluginonforms.moc"
+QTEST_MAIN(TestPluginInDesigner)
+#include "tst_pluginindesigner.moc"
