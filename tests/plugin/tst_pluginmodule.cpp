@@ -80,16 +80,11 @@ private slots:
         QVERIFY2(loader.load(), qPrintable(loader.errorString()));
         QPointer<QObject> first = loader.instance();
         QVERIFY(first);
-        const QObjectList plugins = first->children();
-        QCOMPARE(plugins.size(), 44);
-        QHash<QObject *, int> destroyed;
-        for (QObject *plugin : plugins)
-            connect(plugin, &QObject::destroyed, this,
-                    [&](QObject *object) { ++destroyed[object]; });
+        int destroyed = 0;
+        for (QObject *plugin : first->children())
+            connect(plugin, &QObject::destroyed, this, [&destroyed] { ++destroyed; });
         delete first.data();
-        QCOMPARE(destroyed.size(), 44);
-        for (QObject *plugin : plugins)
-            QCOMPARE(destroyed.value(plugin), 1);
+        QCOMPARE(destroyed, 44);
 
         QObject *second = loader.instance();
         QVERIFY(second);
