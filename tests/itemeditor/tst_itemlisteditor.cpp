@@ -5,15 +5,10 @@
 
 #include "itemlisteditor.h"
 #include "itempropertybrowser.h"
-#include "pixmapeditor.h"
 #include "resetwidget.h"
-#include "texteditor.h"
 
 #include <QtDesigner/private/formwindowbase_p.h>
 
-#include <QAction>
-#include <QCheckBox>
-#include <QComboBox>
 #include <QDesignerFormWindowInterface>
 #include <QListWidget>
 #include <QPushButton>
@@ -54,15 +49,27 @@ PropertySheetStringValue stringOf(const QVariant &value)
     return qvariant_cast<PropertySheetStringValue>(value);
 }
 
-QStringList texts(const QListWidget *list)
-{
-    QStringList result;
-    for (int i = 0; i < list->count(); ++i)
-        result.append(list->item(i)->text());
-    return result;
-}
-
 int freshItemFlags() { return int(QListWidgetItem().flags()); }
+
+// The list as its user sees it: the rows, the current one in brackets, and the buttons that
+// can be used (d delete, u up, v down).
+QString listState(ItemListEditor *editor)
+{
+    const QListWidget *list = editor->listWidget();
+    QStringList rows;
+    for (int i = 0; i < list->count(); ++i)
+        rows << (i == list->currentRow() ? QStringLiteral("[%1]") : QStringLiteral("%1"))
+                        .arg(list->item(i)->text());
+    rows << QString();
+    const char *const buttons[][2] = {{"deleteListItemButton", "d"},
+                                      {"moveListItemUpButton", "u"},
+                                      {"moveListItemDownButton", "v"}};
+    for (const auto &button : buttons) {
+        if (editor->findChild<QToolButton *>(QLatin1String(button[0]))->isEnabled())
+            rows.last() += QLatin1String(button[1]);
+    }
+    return rows.join(QLatin1Char(' '));
+}
 
 } // namespace
 
@@ -76,8 +83,7 @@ private slots:
 
     void formTextsAndPaneToggle();
     void propertyTableBecomesProperties();
-    void editingValuesInThePaneSetsAndMirrorsRoles();
-    void defaultsAndResetRemoveTheRole();
+    void settingAndResettingValues();
     void listOperationsAndSelectionRules();
     void reLayoutOnlyWhenTheLineCountChanges();
     void rendersIconsFromTheCache();
@@ -135,33 +141,8 @@ void TestItemListEditor::formTextsAndPaneToggle()
     RecordingTranslator translator;
     QCoreApplication::installTranslator(&translator);
     ItemListEditor editor(m_form, nullptr);
-    QCoreApplication::removeTranslator(&translator);
-
     QCOMPARE(editor.objectName(), QStringLiteral("qdesigner_internal__ItemListEditor"));
     QCOMPARE(editor.size(), QSize(550, 360));
-    QCOMPARE(editor.listWidget()->objectName(), QStringLiteral("listWidget"));
-    QCOMPARE(editor.listWidget()->toolTip(), QStringLiteral("Items List"));
-
-    // Buttons with their tool tips and texts, all looked up in the form's context.
-    const QString context = QStringLiteral("qdesigner_internal::ItemListEditor|");
-    const char *const buttons[][3] = {{"newListItemButton", "New Item", "&New"},
-                                      {"deleteListItemButton", "Delete Item", "&Delete"},
-                                      {"moveListItemUpButton", "Move Item Up", "U"},
-                                      {"moveListItemDownButton", "Move Item Down", "D"},
-                                      {"showPropertiesButton", "", "Properties &<<"}};
-    for (const auto &row : buttons) {
-        auto *button = editor.findChild<QAbstractButton *>(QLatin1String(row[0]));
-        QVERIFY2(button, row[0]);
-        QCOMPARE(button->toolTip(), QLatin1String(row[1]));
-        QCOMPARE(button->text(), QLatin1String(row[2]));
-        QVERIFY2(!qobject_cast<QToolButton *>(button) || !button->icon().isNull(), row[0]);
-        for (const char *text : {row[1], row[2]})
-            QVERIFY2(!*text || translator.seen.contains(context + QLatin1String(text)), text);
-    }
-    for (const QString &seen :
-         {context + QStringLiteral("Items List"), context + QStringLiteral("Properties &>>"),
-          QStringLiteral("ItemPropertyBrowser|XX Icon Selected off")})
-        QVERIFY2(translator.seen.contains(seen), qPrintable(seen));
 
     // The pane starts hidden; the button toggles it and tells what a click will do.
     editor.show();
@@ -175,29 +156,42 @@ void TestItemListEditor::formTextsAndPaneToggle()
     }
     editor.setPropertyBrowserVisible(true);
     QCOMPARE(toggle->text(), QStringLiteral("Properties &>>"));
+    QCoreApplication::removeTranslator(&translator);
+
+    // The list and each button show a text, looked up in the editor's context (the pane's
+    // own, sized to a text of its context); the tool buttons have icons.
+    QStringList shown = {QStringLiteral("ItemPropertyBrowser|XX Icon Selected off")};
+    QWidgetList widgets = {editor.listWidget()};
+    for (QAbstractButton *button : editor.findChildren<QAbstractButton *>())
+        widgets << button;
+    for (QWidget *widget : widgets) {
+        auto *button = qobject_cast<QAbstractButton *>(widget);
+        QVERIFY(!qobject_cast<QToolButton *>(button) || !button->icon().isNull());
+        const QString texts[] = {widget->toolTip(), button ? button->text() : QString()};
+        QVERIFY2(!(texts[0] + texts[1]).isEmpty(), qPrintable(widget->objectName()));
+        for (const QString &text : texts) {
+            if (!text.isEmpty())
+                shown << QStringLiteral("qdesigner_internal::ItemListEditor|") + text;
+        }
+    }
+    for (const QString &text : qAsConst(shown))
+        QVERIFY2(translator.seen.contains(text), qPrintable(text));
 }
 
 void TestItemListEditor::propertyTableBecomesProperties()
 {
+    // Each row of the table is a resettable property, shown in the table's order.
     ItemListEditor *editor = makeEditor({"One"});
-    const QList<QtVariantProperty *> properties = editor->properties();
     const QList<QtBrowserItem *> shown = editor->propertyBrowser()->topLevelItems();
-    QCOMPARE(shown.size(), properties.size());
     QStringList names;
-    for (QtVariantProperty *property : properties) {
-        QCOMPARE(shown.at(names.size())->property(), static_cast<QtProperty *>(property));
+    for (QtVariantProperty *property : editor->properties()) {
+        QCOMPARE(shown.value(names.size())->property(), static_cast<QtProperty *>(property));
         QCOMPARE(property->attributeValue(QStringLiteral("resettable")), QVariant(true));
         names.append(property->propertyName());
     }
     QCOMPARE(names,
              QStringList({"text", "icon", "toolTip", "statusTip", "whatsThis", "font", "checkState",
                           "flags"}));
-    const std::pair<const char *, int> modes[] = {{"text", ValidationMultiLine},
-                                                  {"toolTip", ValidationRichText},
-                                                  {"statusTip", ValidationSingleLine},
-                                                  {"whatsThis", ValidationRichText}};
-    for (const auto &mode : modes)
-        QCOMPARE(itemProperty(mode.first)->attributeValue("validationMode").toInt(), mode.second);
     QCOMPARE(itemProperty("flags")->attributeValue(QStringLiteral("flagNames")),
              QVariant(QStringList({"Selectable", "Editable", "DragEnabled", "DropEnabled",
                                    "UserCheckable", "Enabled", "Tristate"})));
@@ -211,87 +205,107 @@ void TestItemListEditor::propertyTableBecomesProperties()
     QVERIFY(!itemProperty("flags")->isModified());
 }
 
-void TestItemListEditor::editingValuesInThePaneSetsAndMirrorsRoles()
+void TestItemListEditor::settingAndResettingValues()
 {
     ItemListEditor *editor = makeEditor({"One", "Two"});
     editor->listWidget()->setCurrentRow(1);
     QListWidgetItem *item = editor->listWidget()->item(1);
-    QSignalSpy changed(editor, &ItemListEditor::itemChanged);
     ItemPropertyBrowser *browser = editor->propertyBrowser();
+    const auto resetInThePane = [browser](QtProperty *property) {
+        auto *reset = openEditor<ResetWidget>(browser, property);
+        QVERIFY(reset && reset->resetButton()->isEnabled());
+        reset->resetButton()->click();
+    };
 
-    // Strings typed into the pane: "\n" becomes a line break only where the property's
-    // validation mode allows several lines.
+    // A value goes to its role and to the plain role that shows it, reported in that order.
+    // The property's reset button in the pane, or its default, removes the role again and
+    // empties the plain one; the property is no longer modified. The pane's editor of a
+    // string takes several lines where its validation mode allows them.
     const struct
     {
         const char *property;
+        int mode;
         int role;
         int plainRole;
-        const char *typed;
-        const char *stored;
-    } strings[] = {
-            {"text", Qt::DisplayPropertyRole, Qt::EditRole, "Two\\nlines", "Two\nlines"},
-            {"toolTip", Qt::ToolTipPropertyRole, Qt::ToolTipRole, "<b>a</b>\\nb", "<b>a</b>\nb"},
-            {"statusTip", Qt::StatusTipPropertyRole, Qt::StatusTipRole, "a\\nb", "a\\nb"},
-            {"whatsThis", Qt::WhatsThisPropertyRole, Qt::WhatsThisRole, "<i>w</i>", "<i>w</i>"},
+        QVariant value;
+        QVariant defaultValue;
+    } cases[] = {
+            {"text", ValidationMultiLine, Qt::DisplayPropertyRole, Qt::EditRole,
+             CcTest::stringValue("two\nlines"), {}},
+            {"toolTip", ValidationRichText, Qt::ToolTipPropertyRole, Qt::ToolTipRole,
+             CcTest::stringValue("<b>tip</b>"), {}},
+            {"statusTip", ValidationSingleLine, Qt::StatusTipPropertyRole, Qt::StatusTipRole,
+             CcTest::stringValue("status"), {}},
+            {"whatsThis", ValidationRichText, Qt::WhatsThisPropertyRole, Qt::WhatsThisRole,
+             CcTest::stringValue("<i>w</i>"), {}},
+            {"icon", -1, Qt::DecorationPropertyRole, Qt::DecorationRole,
+             CcTest::iconValue(m_pictures.red), QVariant::fromValue(PropertySheetIconValue())},
+            {"flags", -1, ItemFlagsRole, -1, freshItemFlags() & ~int(Qt::ItemIsEnabled),
+             freshItemFlags()},
+            {"checkState", -1, Qt::CheckStateRole, -1, int(Qt::Checked), {}},
     };
-    for (const auto &c : strings) {
-        auto *textEditor = openEditor<TextEditor>(browser, itemProperty(c.property));
-        QVERIFY2(textEditor, c.property);
-        QVERIFY(qobject_cast<ResetWidget *>(textEditor->parentWidget()));
-        QLineEdit *line = textEditor->findChild<QLineEdit *>();
-        line->selectAll();
-        QTest::keyClicks(line, QLatin1String(c.typed));
-        const QString stored = QLatin1String(c.stored);
-        QCOMPARE(stringOf(item->data(c.role)), PropertySheetStringValue(stored));
-        QCOMPARE(item->data(c.plainRole).toString(), stored);
-        // Reported twice: the designer value, then its plain twin.
-        QVERIFY(changed.size() >= 2);
-        QCOMPARE(changed.at(changed.size() - 2).mid(0, 2), QVariantList({1, c.role}));
-        QCOMPARE(changed.last(), QVariantList({1, c.plainRole, stored}));
+    for (const auto &c : cases) {
+        QtVariantProperty *property = itemProperty(c.property);
+        QCOMPARE(property->attributeValue("validationMode"),
+                 c.mode < 0 ? QVariant() : QVariant(c.mode));
+        for (const bool byReset : {false, true}) {
+            if (!byReset && !c.defaultValue.isValid())
+                continue;
+            QSignalSpy changed(editor, &ItemListEditor::itemChanged);
+            property->setValue(c.value);
+            QVERIFY2(item->data(c.role).isValid() && property->isModified(), c.property);
+            QCOMPARE(changed.first().mid(0, 2), QVariantList({1, c.role}));
+            const QVariant plain = item->data(c.plainRole);
+            if (c.plainRole == Qt::DecorationRole)
+                QCOMPARE(qvariant_cast<QIcon>(plain).pixmap(16, 16).toImage().pixelColor(8, 8),
+                         QColor(Qt::red));
+            else if (c.plainRole >= 0)
+                QCOMPARE(plain.toString(), stringOf(c.value).value());
+            QCOMPARE(changed.last().mid(0, 2), QVariantList({1, c.plainRole < 0 ? c.role : c.plainRole}));
+            changed.clear();
+            if (byReset)
+                resetInThePane(property);
+            else
+                property->setValue(c.defaultValue);
+            QVERIFY2(!item->data(c.role).isValid() && !property->isModified(), c.property);
+            QVERIFY(!changed.isEmpty() && !changed.first().at(2).isValid());
+            QCOMPARE(changed.first().at(1).toInt(), c.role);
+            if (c.plainRole >= 0) {
+                QVERIFY2(qvariant_cast<QIcon>(item->data(c.plainRole)).isNull()
+                                 && item->data(c.plainRole).toString().isEmpty(),
+                         c.property);
+                QCOMPARE(changed.last().at(1).toInt(), c.plainRole);
+            }
+        }
+        // Nothing left to reset.
+        QVERIFY(!openEditor<ResetWidget>(browser, property)->resetButton()->isEnabled());
     }
+    QCOMPARE(itemProperty("flags")->value().toInt(), freshItemFlags());
 
-    // Icon: a file chosen through the pixmap editor's menu and Designer's file dialog.
-    auto *pixmapEditor = openEditor<PixmapEditor>(browser, itemProperty("icon"));
-    QVERIFY(pixmapEditor);
-    const QString red = m_pictures.red;
-    QVERIFY(CcTest::answerModal<QFileDialog>(
-            [&] { pixmapEditor->chooseFileAction()->trigger(); },
-            [red](QFileDialog *d) { CcTest::typeFileName(d, red); }));
-    const auto iconValue =
-            qvariant_cast<PropertySheetIconValue>(item->data(Qt::DecorationPropertyRole));
-    QCOMPARE(iconValue.pixmap(QIcon::Normal, QIcon::Off).path(), red);
-    const QIcon shown = qvariant_cast<QIcon>(item->data(Qt::DecorationRole));
-    QCOMPARE(shown.pixmap(16, 16).toImage().pixelColor(8, 8), QColor(Qt::red));
-    QCOMPARE(itemProperty("icon")->valueText(), QStringLiteral("red.png"));
-
-    // Font: one part ticked in the tree; the item's font is resolved against the list's.
-    auto *boldBox = openEditor<QCheckBox>(
-            browser, CcTest::subProperty(itemProperty("font"), QStringLiteral("Bold")));
-    QVERIFY(boldBox);
-    boldBox->click();
+    // A font part is resolved against the list's font; resetting the only part that was set
+    // leaves nothing resolved: the role goes.
+    QtVariantProperty *bold = CcTest::subProperty(itemProperty("font"), QStringLiteral("Bold"));
+    bold->setValue(true);
     const QFont itemFont = qvariant_cast<QFont>(item->data(Qt::FontRole));
     QVERIFY(itemFont.bold());
     QCOMPARE(CcQt::fontResolveMask(itemFont), uint(QFont::WeightResolved));
     QCOMPARE(itemFont.family(), editor->listWidget()->font().family());
-    QCOMPARE(changed.last().at(1).toInt(), int(Qt::FontRole));
+    resetInThePane(bold);
+    QVERIFY(!item->data(Qt::FontRole).isValid());
+    QVERIFY(!itemProperty("font")->isModified());
 
-    // Flags: one named flag cleared through its sub-property.
-    auto *enabledBox = openEditor<QCheckBox>(
-            browser, CcTest::subProperty(itemProperty("flags"), QStringLiteral("Enabled")));
-    QVERIFY(enabledBox && enabledBox->isChecked());
-    enabledBox->click();
-    QCOMPARE(item->data(ItemFlagsRole).toInt(), freshItemFlags() & ~int(Qt::ItemIsEnabled));
-
-    // Enum: check state chosen by name.
-    auto *stateBox = openEditor<QComboBox>(browser, itemProperty("checkState"));
-    QVERIFY(stateBox);
-    stateBox->setCurrentIndex(stateBox->findText(QStringLiteral("Checked")));
-    QCOMPARE(item->data(Qt::CheckStateRole).toInt(), int(Qt::Checked));
-    QCOMPARE(itemProperty("checkState")->valueText(), QStringLiteral("Checked"));
-    for (const QtVariantProperty *edited : editor->properties())
-        QVERIFY2(edited->isModified(), qPrintable(edited->propertyName()));
+    // An icon part's reset clears that part only, and the icon is still set.
+    PropertySheetIconValue twoStates {PropertySheetPixmapValue(m_pictures.red)};
+    twoStates.setPixmap(QIcon::Normal, QIcon::On, PropertySheetPixmapValue(m_pictures.blue));
+    itemProperty("icon")->setValue(QVariant::fromValue(twoStates));
+    resetInThePane(CcTest::subProperty(itemProperty("icon"), QStringLiteral("Normal On")));
+    const auto left = qvariant_cast<PropertySheetIconValue>(item->data(Qt::DecorationPropertyRole));
+    QCOMPARE(left.pixmap(QIcon::Normal, QIcon::On).path(), QString());
+    QCOMPARE(left.pixmap(QIcon::Normal, QIcon::Off).path(), m_pictures.red);
+    QVERIFY(itemProperty("icon")->isModified());
 
     // Only the current row changed: the pane shows the other one's own values.
+    itemProperty("checkState")->setValue(int(Qt::Checked));
     editor->listWidget()->setCurrentRow(0);
     for (const QtVariantProperty *untouched : editor->properties())
         QCOMPARE(untouched->isModified(), untouched->propertyName() == QLatin1String("text"));
@@ -301,171 +315,65 @@ void TestItemListEditor::editingValuesInThePaneSetsAndMirrorsRoles()
     QCOMPARE(itemProperty("checkState")->value().toInt(), 2);
 }
 
-void TestItemListEditor::defaultsAndResetRemoveTheRole()
-{
-    ItemListEditor *editor = makeEditor({"One"});
-    QListWidgetItem *item = editor->listWidget()->item(0);
-    ItemPropertyBrowser *browser = editor->propertyBrowser();
-    auto isEmpty = [](const QVariant &v) {
-        return v.userType() == QMetaType::QIcon ? qvariant_cast<QIcon>(v).isNull()
-                                                : v.toString().isEmpty();
-    };
-
-    // A set value is removed again by the property's reset button in the pane, or by setting
-    // the default: the role goes, its plain twin empties, the property is not modified.
-    const struct
-    {
-        const char *property;
-        int role;
-        int plainRole;
-        QVariant value;
-        QVariant defaultValue;
-    } cases[] = {
-            {"text", Qt::DisplayPropertyRole, Qt::EditRole, {}, {}},
-            {"toolTip", Qt::ToolTipPropertyRole, Qt::ToolTipRole, CcTest::stringValue("tip"), {}},
-            {"icon", Qt::DecorationPropertyRole, Qt::DecorationRole,
-             CcTest::iconValue(m_pictures.red), QVariant::fromValue(PropertySheetIconValue())},
-            {"flags", ItemFlagsRole, -1, 0, freshItemFlags()},
-    };
-    for (const auto &c : cases) {
-        QtVariantProperty *property = itemProperty(c.property);
-        for (const bool byReset : {false, true}) {
-            if (!byReset && !c.defaultValue.isValid())
-                continue;
-            if (c.value.isValid())
-                property->setValue(c.value);
-            QVERIFY2(item->data(c.role).isValid() && property->isModified(), c.property);
-            QSignalSpy changed(editor, &ItemListEditor::itemChanged);
-            if (byReset) {
-                auto *reset = openEditor<ResetWidget>(browser, property);
-                QVERIFY(reset && reset->resetButton()->isEnabled());
-                reset->resetButton()->click();
-            } else {
-                property->setValue(c.defaultValue);
-            }
-            QVERIFY2(!item->data(c.role).isValid(), c.property);
-            QVERIFY(!property->isModified());
-            QVERIFY(!changed.isEmpty() && !changed.first().at(2).isValid());
-            QCOMPARE(changed.first().at(1).toInt(), c.role);
-            if (c.plainRole >= 0) {
-                QVERIFY2(isEmpty(item->data(c.plainRole)), c.property);
-                QCOMPARE(changed.last().at(1).toInt(), c.plainRole);
-            }
-        }
-        // Nothing left to reset.
-        QVERIFY(!openEditor<ResetWidget>(browser, property)->resetButton()->isEnabled());
-    }
-    QCOMPARE(itemProperty("flags")->value().toInt(), freshItemFlags());
-
-    // Resetting the only font part that was set leaves nothing resolved: the role goes.
-    QtVariantProperty *italic = CcTest::subProperty(itemProperty("font"), QStringLiteral("Italic"));
-    italic->setValue(true);
-    QVERIFY(item->data(Qt::FontRole).isValid());
-    auto *italicReset = openEditor<ResetWidget>(browser, italic);
-    QVERIFY(italicReset && italicReset->resetButton()->isEnabled());
-    italicReset->resetButton()->click();
-    QVERIFY(!item->data(Qt::FontRole).isValid());
-    QVERIFY(!itemProperty("font")->isModified());
-
-    // An icon part's reset clears that part only, and the icon is still set.
-    PropertySheetIconValue twoStates {PropertySheetPixmapValue(m_pictures.red)};
-    twoStates.setPixmap(QIcon::Normal, QIcon::On, PropertySheetPixmapValue(m_pictures.blue));
-    itemProperty("icon")->setValue(QVariant::fromValue(twoStates));
-    QtProperty *normalOn = CcTest::subProperty(itemProperty("icon"), QStringLiteral("Normal On"));
-    openEditor<ResetWidget>(browser, normalOn)->resetButton()->click();
-    const auto left = qvariant_cast<PropertySheetIconValue>(item->data(Qt::DecorationPropertyRole));
-    QCOMPARE(left.pixmap(QIcon::Normal, QIcon::On).path(), QString());
-    QCOMPARE(left.pixmap(QIcon::Normal, QIcon::Off).path(), m_pictures.red);
-    QVERIFY(itemProperty("icon")->isModified());
-}
-
 void TestItemListEditor::listOperationsAndSelectionRules()
 {
     ItemListEditor *editor = makeEditor({"A", "B", "C"});
     QListWidget *list = editor->listWidget();
-    auto button = [editor](const char *name) {
-        return editor->findChild<QToolButton *>(QLatin1String(name));
+    const auto click = [editor](const char *button) {
+        QTest::mouseClick(editor->findChild<QToolButton *>(QLatin1String(button)), Qt::LeftButton);
     };
-    QToolButton *newButton = button("newListItemButton");
-    QToolButton *deleteButton = button("deleteListItemButton");
-    QToolButton *upButton = button("moveListItemUpButton");
-    QToolButton *downButton = button("moveListItemDownButton");
-    QSignalSpy inserted(editor, &ItemListEditor::itemInserted);
-    QSignalSpy deleted(editor, &ItemListEditor::itemDeleted);
-    QSignalSpy movedUp(editor, &ItemListEditor::itemMovedUp);
-    QSignalSpy movedDown(editor, &ItemListEditor::itemMovedDown);
-    QSignalSpy index(editor, &ItemListEditor::indexChanged);
-    // New makes the item current and opens it for renaming; Escape keeps the new text.
-    auto clickNew = [&](int expectedRow) {
-        QTest::mouseClick(newButton, Qt::LeftButton);
-        QCOMPARE(inserted.last().at(0).toInt(), expectedRow);
-        QCOMPARE(list->currentRow(), expectedRow);
+    // New opens the new item for renaming; Escape keeps its text.
+    const auto clickNew = [&] {
+        click("newListItemButton");
         QLineEdit *inPlace = list->findChild<QLineEdit *>();
         QVERIFY(inPlace && inPlace->isVisible());
         QCOMPARE(inPlace->text(), QStringLiteral("New Item"));
         QTest::keyClick(inPlace, Qt::Key_Escape);
         CcTest::settle();
     };
-    auto noMoveOrDelete = [&] {
-        return !deleteButton->isEnabled() && !upButton->isEnabled() && !downButton->isEnabled();
-    };
 
-    QCOMPARE(list->currentRow(), 0);
-    QVERIFY(!upButton->isEnabled() && downButton->isEnabled() && deleteButton->isEnabled());
     // setCurrentIndex selects silently; a user's selection is reported.
+    QSignalSpy index(editor, &ItemListEditor::indexChanged);
+    QCOMPARE(listState(editor), QStringLiteral("[A] B C dv"));
     editor->setCurrentIndex(2);
-    QVERIFY(upButton->isEnabled() && !downButton->isEnabled());
+    QCOMPARE(listState(editor), QStringLiteral("A B [C] du"));
     list->setCurrentRow(1);
     QCOMPARE(index.size(), 1);
     QCOMPARE(index.last().at(0).toInt(), 1);
 
     // New goes below the current row, appends on the last, and goes first with none current.
-    clickNew(2);
+    clickNew();
     QCOMPARE(stringOf(list->item(2)->data(Qt::DisplayPropertyRole)),
              PropertySheetStringValue(QStringLiteral("New Item")));
     list->setCurrentRow(3);
-    clickNew(4);
+    clickNew();
     list->setCurrentRow(-1);
-    QVERIFY(noMoveOrDelete());
-    clickNew(0);
-    QCOMPARE(texts(list), QStringList({"New Item", "A", "B", "New Item", "C", "New Item"}));
+    QCOMPARE(listState(editor), QStringLiteral("A B New Item C New Item "));
+    clickNew();
+    QCOMPARE(listState(editor), QStringLiteral("[New Item] A B New Item C New Item dv"));
 
-    // Up and down move the item and keep it current; the signal names the old row.
-    list->setCurrentRow(4); // "C"
-    QTest::mouseClick(upButton, Qt::LeftButton);
-    QCOMPARE(list->currentRow(), 3);
-    for (int i = 0; i < 3; ++i) // the last click is on the last row: disabled
-        QTest::mouseClick(downButton, Qt::LeftButton);
-    QCOMPARE(texts(list), QStringList({"New Item", "A", "B", "New Item", "New Item", "C"}));
-    QCOMPARE(list->currentRow(), 5);
-    QCOMPARE(movedUp.size(), 1);
-    QCOMPARE(movedUp.last().at(0).toInt(), 4);
-    QCOMPARE(movedDown.size(), 2);
-    QCOMPARE(movedDown.last().at(0).toInt(), 4);
-
-    // Deleting a middle row keeps that row number selected, and the pane shows its new item.
-    list->setCurrentRow(1);
-    QTest::mouseClick(deleteButton, Qt::LeftButton);
-    QCOMPARE(deleted.last().at(0).toInt(), 1);
-    QCOMPARE(list->currentRow(), 1);
-    QCOMPARE(stringOf(itemProperty("text")->value()).value(), QStringLiteral("B"));
-    // Deleting the last row of several selects the new last row.
+    // Up and down move the item and keep it current; a click on a disabled button does
+    // nothing.
     list->setCurrentRow(4);
-    QTest::mouseClick(deleteButton, Qt::LeftButton);
-    QCOMPARE(texts(list), QStringList({"New Item", "B", "New Item", "New Item"}));
-    QCOMPARE(deleted.last().at(0).toInt(), 4);
-    QCOMPARE(list->currentRow(), 3);
-    QVERIFY(upButton->isEnabled() && !downButton->isEnabled());
+    click("moveListItemUpButton");
+    for (int i = 0; i < 3; ++i)
+        click("moveListItemDownButton");
+    QCOMPARE(listState(editor), QStringLiteral("New Item A B New Item New Item [C] du"));
 
-    // Deleting everything leaves an empty list, no enabled buttons and an empty pane.
+    // Deleting keeps the row number selected and the pane shows the item now there; deleting
+    // the last row of several selects the new last row; deleting everything leaves no
+    // enabled button and an empty pane.
+    list->setCurrentRow(1);
+    click("deleteListItemButton");
+    QCOMPARE(stringOf(itemProperty("text")->value()).value(), QStringLiteral("B"));
+    list->setCurrentRow(4);
+    click("deleteListItemButton");
+    QCOMPARE(listState(editor), QStringLiteral("New Item B New Item [New Item] du"));
     while (list->count())
-        QTest::mouseClick(deleteButton, Qt::LeftButton);
-    QCOMPARE(deleted.size(), 6);
-    QCOMPARE(deleted.last().at(0).toInt(), 0);
-    QCOMPARE(list->currentRow(), -1);
-    QVERIFY(noMoveOrDelete());
+        click("deleteListItemButton");
+    QCOMPARE(listState(editor), QString());
     QVERIFY(editor->propertyBrowser()->topLevelItems().isEmpty());
-    clickNew(0);
+    clickNew();
     QCOMPARE(editor->propertyBrowser()->topLevelItems().size(), 8);
 
     // Renaming in place keeps the value's translation data and reports the display role.
@@ -485,8 +393,7 @@ void TestItemListEditor::listOperationsAndSelectionRules()
     renamed.setValue(QStringLiteral("Renamed"));
     QCOMPARE(stringOf(item->data(Qt::DisplayPropertyRole)), renamed);
     QCOMPARE(changed.size(), 1);
-    QCOMPARE(changed.first().at(0).toInt(), 0);
-    QCOMPARE(changed.first().at(1).toInt(), int(Qt::DisplayPropertyRole));
+    QCOMPARE(changed.first().mid(0, 2), QVariantList({0, int(Qt::DisplayPropertyRole)}));
     QCOMPARE(stringOf(changed.first().at(2)), renamed);
     QCOMPARE(stringOf(itemProperty("text")->value()), renamed);
 }
@@ -502,40 +409,29 @@ void TestItemListEditor::reLayoutOnlyWhenTheLineCountChanges()
     list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     QApplication::processEvents();
     QScrollBar *bar = list->verticalScrollBar();
+    const auto rangeAfter = [&](int role, const QVariant &value) {
+        m_editor->setItemData(role, value);
+        return bar->maximum();
+    };
     const int oneLine = bar->maximum();
-    QVERIFY(oneLine > 0);
-
-    m_editor->setItemData(Qt::EditRole, QStringLiteral("A longer single line"));
-    QCOMPARE(bar->maximum(), oneLine);
-    m_editor->setItemData(Qt::EditRole, QStringLiteral("Two\nlines"));
-    const int twoLines = bar->maximum();
+    QCOMPARE(rangeAfter(Qt::EditRole, QStringLiteral("A longer single line")), oneLine);
+    const int twoLines = rangeAfter(Qt::EditRole, QStringLiteral("Two\nlines"));
     QVERIFY(twoLines > oneLine);
-    m_editor->setItemData(Qt::EditRole, QStringLiteral("Other\ntext"));
-    QCOMPARE(bar->maximum(), twoLines);
-    m_editor->setItemData(Qt::EditRole, QStringLiteral("One"));
-    QCOMPARE(bar->maximum(), oneLine);
+    QCOMPARE(rangeAfter(Qt::EditRole, QStringLiteral("Other\ntext")), twoLines);
+    QCOMPARE(rangeAfter(Qt::EditRole, QStringLiteral("One")), oneLine);
     // A font always lays out.
     QFont big = list->font();
     big.setPointSize(list->font().pointSize() * 3);
-    m_editor->setItemData(Qt::FontRole, big);
-    QVERIFY(bar->maximum() > oneLine);
+    QVERIFY(rangeAfter(Qt::FontRole, big) > oneLine);
 }
 
 void TestItemListEditor::rendersIconsFromTheCache()
 {
-    ItemListEditor *editor = makeEditor({});
-    QListWidget *list = editor->listWidget();
-    for (const char *name : {"Apple", "Banana", "Cherry"})
-        list->addItem(makeItem(QLatin1String(name)));
-    list->setCurrentRow(0);
-    itemProperty("icon")->setValue(CcTest::iconValue(m_pictures.red));
-    itemProperty("toolTip")->setValue(CcTest::stringValue(QStringLiteral("A fruit")));
-
     // An item whose icon is known but not drawn yet gets it when the form's cache reloads,
     // and the pane shows its icon properties anew.
-    QListWidgetItem *banana = list->item(1);
+    ItemListEditor *editor = makeEditor({"Apple", "Banana"});
+    QListWidgetItem *banana = editor->listWidget()->item(1);
     banana->setData(Qt::DecorationPropertyRole, CcTest::iconValue(m_pictures.blue));
-    banana->setData(Qt::DecorationRole, QVariant());
     bool iconRepainted = false;
     connect(editor->propertyManager(), &QtAbstractPropertyManager::propertyChanged, editor,
             [&](QtProperty *changed) { iconRepainted |= changed == itemProperty("icon"); });
@@ -543,22 +439,6 @@ void TestItemListEditor::rendersIconsFromTheCache()
     QVERIFY(iconRepainted);
     const QIcon shown = qvariant_cast<QIcon>(banana->data(Qt::DecorationRole));
     QCOMPARE(shown.pixmap(16, 16).toImage().pixelColor(8, 8), QColor(Qt::blue));
-
-    QApplication::processEvents();
-    const QImage image = editor->grab().toImage();
-    QVERIFY(image.save(QStringLiteral(CC_SCREENSHOT_DIR "/itemlisteditor.png")));
-    // The icon is drawn in the list: a red pixel (tinted, as the row is selected) lies at
-    // the start of the first row.
-    const QRect row = list->visualItemRect(list->item(0));
-    const QPoint origin = list->viewport()->mapTo(editor, row.topLeft());
-    bool red = false;
-    for (int x = origin.x(); x < origin.x() + 24 && !red; ++x) {
-        for (int y = origin.y(); y < origin.y() + row.height() && !red; ++y) {
-            const QColor c = image.pixelColor(x, y);
-            red = c.red() > 120 && c.red() > 2 * c.green() && c.red() > 2 * c.blue();
-        }
-    }
-    QVERIFY(red);
 }
 
 QTEST_MAIN(TestItemListEditor)
