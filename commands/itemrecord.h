@@ -1,14 +1,16 @@
 #pragma once
 
-#include <QHash>
 #include <QList>
+#include <QMap>
 #include <QString>
 #include <QVariant>
 
 // One entry of a list-like widget while it is edited: item data role -> value. Texts, tool
 // tips, actions and data are Designer string values (role 27 text, 29 tool tip, 33 action,
 // 34 data), the icon a Designer icon value (role 28). A role the entry lacks is absent.
-using ItemRecord = QHash<int, QVariant>;
+// A map, not a hash: a record holds a few roles, and a matrix keeps one per cell; Qt 6's
+// hash allocates room for many entries even for one.
+using ItemRecord = QMap<int, QVariant>;
 using ItemRecords = QList<ItemRecord>;
 
 namespace ItemRoles {
