@@ -51,6 +51,10 @@ inline bool isDesignable(const QMetaProperty &property, const QObject *object)
 #endif
 }
 
+// Whether Qt's run-time form builder writes enum properties: Qt 6.4's warns that their types
+// are "not supported yet" and leaves them out.
+constexpr bool formBuilderWritesEnums = QT_VERSION < QT_VERSION_CHECK(6, 0, 0);
+
 // The function moc exports for a plug-in's metadata: Qt 6 gave it a new name with a new layout.
 constexpr const char *pluginMetaDataFunction =
 #if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)

@@ -554,12 +554,27 @@ DomWidget *FormBuilder::createDom(QWidget *widget, DomWidget *domParentWidget, b
 QList<DomProperty *> FormBuilder::computeProperties(QObject *object)
 {
     // The base writer would save flags as a plain enum, with a warning for each; they are
-    // left to it only as sets of scoped keys, which it reads back.
+    // written here as sets of scoped keys, which it reads back. Where the base writer cannot
+    // write enums at all (Qt 6), they are written here too, as a scoped key.
     QList<DomProperty *> properties = QFormBuilder::computeProperties(object);
     const QMetaObject *meta = object->metaObject();
     for (int i = 0; i < meta->propertyCount(); ++i) {
         const QMetaProperty property = meta->property(i);
-        if (!property.isFlagType() || !property.isWritable() || !CcQt::isDesignable(property, object))
+        if (!property.isWritable() || !CcQt::isDesignable(property, object))
+            continue;
+        if (property.isEnumType() && !property.isFlagType() && !CcQt::formBuilderWritesEnums) {
+            const QMetaEnum enumeration = property.enumerator();
+            const char *key = enumeration.valueToKey(property.read(object).toInt());
+            if (!key)
+                continue;
+            auto *domProperty = new DomProperty;
+            domProperty->setAttributeName(QLatin1String(property.name()));
+            domProperty->setElementEnum(QLatin1String(enumeration.scope()) + QLatin1String("::")
+                                        + QLatin1String(key));
+            properties.append(domProperty);
+            continue;
+        }
+        if (!property.isFlagType())
             continue;
         const QMetaEnum flags = property.enumerator();
         const int bits = property.read(object).toInt();
@@ -581,6 +596,8 @@ bool FormBuilder::checkProperty(QObject *object, const QString &propertyName) co
     const QMetaObject *meta = object->metaObject();
     const int index = meta->indexOfProperty(propertyName.toLatin1().constData());
     if (index >= 0 && meta->property(index).isFlagType())
+        return false; // written by computeProperties
+    if (index >= 0 && meta->property(index).isEnumType() && !CcQt::formBuilderWritesEnums)
         return false; // written by computeProperties
     return QFormBuilder::checkProperty(object, propertyName);
 }
