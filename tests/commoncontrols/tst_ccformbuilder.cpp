@@ -1,6 +1,7 @@
 // VoCc::FormBuilder: the entries of the list-like widgets through .ui text and back; the
 // example form as the builder loads it and as uic compiles it.
 #include "ui_allwidgets.h"
+#include "warninglog.h"
 
 #include <nui/CommonControls/CcFormBuilder.hpp>
 
@@ -29,24 +30,13 @@ QString saveForm(QWidget *form)
     return QString::fromUtf8(buffer.data());
 }
 
-// Loads a form; what it warns of is added to said.
-QWidget *loadForm(const QString &uiText, QStringList *said = nullptr)
+QWidget *loadForm(const QString &uiText)
 {
-    static QStringList *warnings = nullptr;
-    warnings = said;
-    const auto collect = [](QtMsgType type, const QMessageLogContext &, const QString &message) {
-        if (type != QtDebugMsg && type != QtInfoMsg)
-            warnings->append(message);
-    };
-    const QtMessageHandler previous = said ? qInstallMessageHandler(collect) : nullptr;
     FormBuilder builder;
     QBuffer buffer;
     buffer.setData(uiText.toUtf8());
     buffer.open(QIODevice::ReadOnly);
-    QWidget *form = builder.load(&buffer);
-    if (said)
-        qInstallMessageHandler(previous);
-    return form;
+    return builder.load(&buffer);
 }
 
 // A form document holding the given widget elements.
@@ -139,7 +129,8 @@ void checkHolds(QWidget *form, const Elements &elements, Source source = Loaded)
         QCOMPARE(QLatin1String(widget->metaObject()->className()), element->attributeClass());
         for (DomProperty *property : element->elementProperty()) {
             if (property->kind() == DomProperty::Rect || property->kind() == DomProperty::IconSet
-                || (source == Compiled && property->attributeName() == QLatin1String("checkedTexts"))
+                || (source == Compiled
+                    && property->attributeName() == QLatin1String("checkedTexts"))
                 || (source == Reloaded && property->attributeStdset() == 0))
                 continue;
             const QVariant value = widget->property(qPrintable(property->attributeName()));
@@ -302,14 +293,14 @@ void TestCcFormBuilder::badAndPartialDataLoadQuietly()
             "<widget class=\"VoCc::CheckableTextComboBox\" name=\"check\">"
             " <item><property name=\"toolTip\"><string>only a tip</string></property></item>"
             "</widget>");
-    QStringList warnings;
-    QScopedPointer<QWidget> form(loadForm(formText(body), &warnings));
+    const CcTest::WarningLog log;
+    QScopedPointer<QWidget> form(loadForm(formText(body)));
     QVERIFY(form);
     // What is left out is named once per widget (the unknown item property, the Angle's
     // items); at most one more complaint, about the property of the wrong type; no storm.
-    const QString said = warnings.join(QLatin1Char('\n'));
+    const QString said = log.warnings.join(QLatin1Char('\n'));
     QVERIFY2(said.contains(QLatin1String("colour")) && said.contains(QLatin1String("VoCc::Angle"))
-                     && warnings.size() <= 3,
+                     && log.warnings.size() <= 3,
              qPrintable(said));
 
     auto *buttons = form->findChild<OptionButtons *>();
@@ -401,13 +392,13 @@ void TestCcFormBuilder::limitsGridsNoEditorMakes()
                            " <property name=\"column\"><number>3</number></property>"
                            " <item><property name=\"text\"><string>A</string></property></item>"
                            "</widget>");
-    QStringList warnings;
-    QScopedPointer<QWidget> form(loadForm(formText(body.arg(className)), &warnings));
+    const CcTest::WarningLog log;
+    QScopedPointer<QWidget> form(loadForm(formText(body.arg(className))));
     QVERIFY(form);
-    QCOMPARE(warnings.size(), 1);
+    QCOMPARE(log.warnings.size(), 1);
     for (const QString &named :
          {className, QStringLiteral("\"grid\""), QStringLiteral("property \"row\" is 65536")})
-        QVERIFY2(warnings.first().contains(named), qPrintable(warnings.first()));
+        QVERIFY2(log.warnings.first().contains(named), qPrintable(log.warnings.first()));
 
     QWidget *grid = form->findChild<QWidget *>(QStringLiteral("grid"));
     const auto button = [grid](int index) -> QAbstractButton * {
@@ -437,17 +428,17 @@ void TestCcFormBuilder::showsLongTextsCut()
             QStringLiteral("<widget class=\"VoCc::OptionButtons\" name=\"options\">%1</widget>"
                            "<widget class=\"VoCc::ComboBox\" name=\"combo\">%1%1</widget>")
                     .arg(item);
-    QStringList warnings;
-    QScopedPointer<QWidget> form(loadForm(formText(body), &warnings));
+    const CcTest::WarningLog log;
+    QScopedPointer<QWidget> form(loadForm(formText(body)));
     auto *options = form->findChild<OptionButtons *>();
     QCOMPARE(options->textList(), QStringList {longText});
     QCOMPARE(options->button(0)->text().size(), 1000);
     QVERIFY(options->button(0)->text().startsWith(QStringLiteral("xxx")));
     QCOMPARE(form->findChild<ComboBox *>()->itemText(1).size(), 1000);
-    QCOMPARE(warnings.size(), 1);
-    QVERIFY2(warnings.first().contains(
+    QCOMPARE(log.warnings.size(), 1);
+    QVERIFY2(log.warnings.first().contains(
                      QStringLiteral("VoCc::ComboBox \"combo\": property \"text\"")),
-             qPrintable(warnings.first()));
+             qPrintable(log.warnings.first()));
 }
 
 QTEST_MAIN(TestCcFormBuilder)

@@ -107,7 +107,7 @@ void TestItemListEditor::initTestCase()
     m_form = CcTest::createFormWindow(
             CcTest::formXml(QStringLiteral("<widget class=\"QComboBox\" name=\"combo\"/>")));
     QVERIFY(qobject_cast<FormWindowBase *>(m_form));
-    m_object = m_form->mainContainer()->findChild<QWidget *>(QStringLiteral("combo"));
+    m_object = CcTest::formChild(m_form, "combo");
     QVERIFY(m_object);
     QVERIFY(!m_pictures.red.isEmpty() && !m_pictures.blue.isEmpty());
 }
@@ -221,6 +221,7 @@ void TestItemListEditor::settingAndResettingValues()
     // The property's reset button in the pane, or its default, removes the role again and
     // empties the plain one; the property is no longer modified. The pane's editor of a
     // string takes several lines where its validation mode allows them.
+    // clang-format off
     const struct
     {
         const char *property;
@@ -244,6 +245,7 @@ void TestItemListEditor::settingAndResettingValues()
              freshItemFlags()},
             {"checkState", -1, Qt::CheckStateRole, -1, int(Qt::Checked), {}},
     };
+    // clang-format on
     for (const auto &c : cases) {
         QtVariantProperty *property = itemProperty(c.property);
         QCOMPARE(property->attributeValue("validationMode"),
@@ -261,7 +263,8 @@ void TestItemListEditor::settingAndResettingValues()
                          QColor(Qt::red));
             else if (c.plainRole >= 0)
                 QCOMPARE(plain.toString(), stringOf(c.value).value());
-            QCOMPARE(changed.last().mid(0, 2), QVariantList({1, c.plainRole < 0 ? c.role : c.plainRole}));
+            QCOMPARE(changed.last().mid(0, 2),
+                     QVariantList({1, c.plainRole < 0 ? c.role : c.plainRole}));
             changed.clear();
             if (byReset)
                 resetInThePane(property);

@@ -5,6 +5,7 @@
 // that every widget gets.
 
 #include "designertestcore.h"
+#include "uixml.h"
 
 #include <nui/CommonControls/CcDrawbackBoxGroup.hpp>
 #include <nui/CommonControls/CcMatrixButtons.hpp>
@@ -35,6 +36,7 @@
 #include <QtUiPlugin/QDesignerCustomWidgetInterface>
 
 using namespace qdesigner_internal;
+using CcTest::widgetXml;
 
 namespace {
 
@@ -140,24 +142,11 @@ public:
     }
 };
 
-QString widgetXml(const char *className, const char *name, const QString &inner = QString())
-{
-    return QStringLiteral("<widget class=\"%1\" name=\"%2\">%3</widget>\n")
-            .arg(QLatin1String(className), QLatin1String(name), inner);
-}
-
-QWidget *formChild(QDesignerFormWindowInterface *form, const char *name)
-{
-    return form->mainContainer()->findChild<QWidget *>(QLatin1String(name));
-}
-
 // A form holding a page group with the given pages, declared as Designer's widget box does.
 QString groupForm(const QString &pages)
 {
     return CcTest::formXml(widgetXml("VoCc::DrawbackBoxGroup", "group", pages),
-                           QStringLiteral("<customwidget><class>VoCc::DrawbackBoxGroup</class>"
-                                          "<extends>QWidget</extends>"
-                                          "<addpagemethod>addPage</addpagemethod></customwidget>"));
+                           CcTest::pageGroupDeclaration());
 }
 
 QWidgetList pagesOf(const VoCc::DrawbackBoxGroup *group)
@@ -270,7 +259,7 @@ private slots:
         QDesignerFormWindowInterface *form = CcTest::createFormWindow(
                 CcTest::formXml(widgetXml("VoCc::ListView", "a") + widgetXml("VoCc::ListView", "b")
                                 + widgetXml("VoCc::ListView", "c")));
-        editor->setObject(formChild(form, "a"));
+        editor->setObject(CcTest::formChild(form, "a"));
         QCOMPARE(slotRunsPerEdit(), before + 3);
 
         // Each run repaints the edited list view. A form window is never shown here, so a
@@ -301,7 +290,7 @@ private slots:
         const char *names[] = {"outer", "inner", "checks", "radios"};
         QList<QAbstractButton *> firstButtons;
         for (const char *name : names) {
-            auto *matrix = qobject_cast<VoCc::AbstractMatrixOptions *>(formChild(form, name));
+            auto *matrix = CcTest::formChild<VoCc::AbstractMatrixOptions>(form, name);
             QVERIFY2(matrix, name);
             matrix->setTextList({QStringLiteral("one")});
             // A stale button text shows whether the list was applied again.
@@ -329,7 +318,7 @@ private slots:
     {
         QDesignerFormWindowInterface *form = CcTest::createFormWindow(
                 groupForm(widgetXml("QWidget", "p0") + widgetXml("QWidget", "p1")));
-        auto *group = qobject_cast<VoCc::DrawbackBoxGroup *>(formChild(form, "group"));
+        auto *group = CcTest::formChild<VoCc::DrawbackBoxGroup>(form, "group");
         QVERIFY(group);
         QCOMPARE(group->count(), 2);
         // Pages loaded through addPage are not managed yet; Designer selects managed widgets
@@ -371,7 +360,7 @@ private slots:
     {
         QDesignerFormWindowInterface *form =
                 CcTest::createFormWindow(groupForm(widgetXml("QWidget", "page")));
-        auto *group = qobject_cast<VoCc::DrawbackBoxGroup *>(formChild(form, "group"));
+        auto *group = CcTest::formChild<VoCc::DrawbackBoxGroup>(form, "group");
         QVERIFY(group);
         auto *container = qt_extension<QDesignerContainerExtension *>(
                 form->core()->extensionManager(), group);

@@ -102,7 +102,7 @@ void TestDesignerPropertyComponents::initTestCase()
     m_core = CcTest::designerCore();
     m_form = CcTest::createFormWindow(
             CcTest::formXml(QStringLiteral("<widget class=\"QLabel\" name=\"label\"/>")));
-    m_label = m_form->mainContainer()->findChild<QWidget *>(QStringLiteral("label"));
+    m_label = CcTest::formChild(m_form, "label");
 }
 
 void TestDesignerPropertyComponents::cleanupTestCase() { CcTest::closeFormWindow(m_form); }
@@ -197,10 +197,9 @@ void TestDesignerPropertyComponents::iconStatesThemeResourcesAndReload()
     // A theme, chosen through the pixmap editor's menu and the theme dialog.
     auto *editor = CcTest::openEditor<PixmapEditor>(&pane.browser, icon);
     QVERIFY(editor && editor->themeAction()->isVisible());
-    QVERIFY(CcTest::answerModal<IconThemeDialog>([editor] { editor->themeAction()->trigger(); },
-                                                 [](IconThemeDialog *dialog) {
-                                                     dialog->setTheme(QStringLiteral("edit-copy"));
-                                                 }));
+    QVERIFY(CcTest::answerModal<IconThemeDialog>(
+            [editor] { editor->themeAction()->trigger(); },
+            [](IconThemeDialog *dialog) { dialog->setTheme(QStringLiteral("edit-copy")); }));
     QCOMPARE(iconOf(icon).theme(), QStringLiteral("edit-copy"));
     QCOMPARE(iconOf(icon).pixmap(QIcon::Normal, QIcon::Off).path(), m_pictures.red);
     // The theme part is edited with Designer's theme editor, and reset on its own.
@@ -311,9 +310,9 @@ void TestDesignerPropertyComponents::coexistsWithDesignersOwnPropertyEditor()
 #endif
     void *module = dlopen(CC_PROPERTYBROWSER_MODULE, RTLD_NOW | RTLD_LOCAL);
     QVERIFY2(module, dlerror());
-    for (const char *symbol : {"_ZN24QtVariantPropertyManager10enumTypeIdEv",
-                               "_ZN21QtTreePropertyBrowser16staticMetaObjectE",
-                               "_ZN10QtPropertyD2Ev"})
+    for (const char *symbol :
+         {"_ZN24QtVariantPropertyManager10enumTypeIdEv",
+          "_ZN21QtTreePropertyBrowser16staticMetaObjectE", "_ZN10QtPropertyD2Ev"})
         QVERIFY2(!dlsym(module, symbol), symbol);
     using Create = QWidget *(*)();
     auto create = reinterpret_cast<Create>(dlsym(module, "ccCreatePropertyBrowser"));

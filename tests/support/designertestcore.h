@@ -1,10 +1,11 @@
 #pragma once
 
+#include <QDesignerFormWindowInterface>
 #include <QString>
 #include <QStringList>
+#include <QWidget>
 
 class QDesignerFormEditorInterface;
-class QDesignerFormWindowInterface;
 
 namespace CcTest {
 
@@ -25,6 +26,13 @@ QDesignerFormEditorInterface *designerCore();
 // text. It is owned by the form window manager; close it with closeFormWindow().
 QDesignerFormWindowInterface *createFormWindow(const QString &uiXml = QString());
 void closeFormWindow(QDesignerFormWindowInterface *formWindow);
+
+// The widget of that name and class on a form.
+template<class T = QWidget>
+T *formChild(QDesignerFormWindowInterface *form, const char *name)
+{
+    return form->mainContainer()->findChild<T *>(QLatin1String(name));
+}
 
 // A minimal .ui document whose top level is a QWidget named "Form" holding bodyXml.
 QString formXml(const QString &bodyXml, const QString &customWidgetsXml = QString());

@@ -16,6 +16,8 @@
 #include "itemdialogdriver.h"
 #include "modalanswer.h"
 #include "testpictures.h"
+#include "uixml.h"
+#include "warninglog.h"
 
 #include <nui/CommonControls/CcCheckableTextComboBox.hpp>
 #include <nui/CommonControls/CcComboBox.hpp>
@@ -81,46 +83,37 @@ QStringList shownByPageGroup(QWidget *w)
     return titles;
 }
 
-QString prop(const char *name, const char *value, const char *kind = "string", bool notr = false)
-{
-    return QStringLiteral("<property name=\"%1\"><%3%4>%2</%3></property>")
-            .arg(QLatin1String(name), QLatin1String(value), QLatin1String(kind),
-                 notr ? QStringLiteral(" notr=\"true\"") : QString());
-}
 QString untranslated(const char *name, const char *value)
 {
-    return prop(name, value, "string", true);
+    return propertyXml(name, value, "string", true);
 }
-QString item(const QString &properties)
+QString textItem(const char *text, const QString &extras = QString())
 {
-    return QStringLiteral("<item>%1</item>").arg(properties);
+    return itemXml(propertyXml("text", text) + extras);
 }
 
 // Entries A, B and C; B carries the extra values its widget keeps.
 QString entries(const QString &extraOfB)
 {
-    return item(prop("text", "A")) + item(prop("text", "B") + extraOfB) + item(prop("text", "C"));
+    return textItem("A") + textItem("B", extraOfB) + textItem("C");
 }
-const QString optionExtras = prop("toolTip", "tipB") + untranslated("data", "dB");
-const QString pages =
-        QStringLiteral("<widget class=\"QWidget\" name=\"pageA\">%1</widget>"
-                       "<widget class=\"QWidget\" name=\"pageB\">%2</widget>"
-                       "<widget class=\"QWidget\" name=\"pageC\">%3</widget>")
-                .arg(prop("windowTitle", "A"), prop("windowTitle", "B"), prop("windowTitle", "C"));
+const QString optionExtras = propertyXml("toolTip", "tipB") + untranslated("data", "dB");
+const QString pages = widgetXml("QWidget", "pageA", propertyXml("windowTitle", "A"))
+        + widgetXml("QWidget", "pageB", propertyXml("windowTitle", "B"))
+        + widgetXml("QWidget", "pageC", propertyXml("windowTitle", "C"));
 // A 2 x 3 matrix a..e and an empty cell; a has an icon, a tool tip and an action.
 const QString firstCellExtras =
         untranslated("icon",
                      ":/qt-project.org/styles/commonstyle/images/standardbutton-open-16.png")
-        + prop("toolTip", "tipa") + untranslated("action", "acta");
-const QString dimensions = prop("row", "2", "number") + prop("column", "3", "number");
-const QString matrixEntries = dimensions + item(prop("text", "a") + firstCellExtras)
-        + item(prop("text", "b")) + item(prop("text", "c")) + item(prop("text", "d"))
-        + item(prop("text", "e"));
+        + propertyXml("toolTip", "tipa") + untranslated("action", "acta");
+const QString dimensions = propertyXml("row", "2", "number") + propertyXml("column", "3", "number");
+const QString matrixEntries = dimensions + textItem("a", firstCellExtras) + textItem("b")
+        + textItem("c") + textItem("d") + textItem("e");
 const QString popEntries = dimensions
         + QStringLiteral("<property name=\"textList\"><stringlist><string>a</string>"
                          "<string>b</string><string>c</string><string>d</string>"
                          "<string>e</string><string></string></stringlist></property>")
-        + item(firstCellExtras);
+        + itemXml(firstCellExtras);
 
 // What a user does in an editor: looks at it as it opens and makes a change (then Cancel),
 // makes a change and takes it back (then OK), and edits for real (then OK).
@@ -237,7 +230,7 @@ const Family families[] = {
     {"VoCc::ComboBox", "Edit Items", "Edit ComboBox", {"text", "icon", "action"}, "", shownByComboBox,
      entries(untranslated("action", "actB")), true, abc, addedBC, abc, {"@icon", "actionAdded", "actB"}, {}, 1},
     {"VoCc::CheckableTextComboBox", "Edit Items", "Edit Checkable ComboBox", {"text", "toolTip"}, "", shownByInnerCombo<VoCc::CheckableTextComboBox>,
-     entries(prop("toolTip", "tipB")), true, abc, addedBC, abc, {"toolTipAdded", "tipB"}, {}, 1},
+     entries(propertyXml("toolTip", "tipB")), true, abc, addedBC, abc, {"toolTipAdded", "tipB"}, {}, 1},
     {"VoCc::OptionComboBox", "Edit Items", "Edit Option ComboBox", {"text", "icon", "data"}, "", shownByInnerCombo<VoCc::OptionComboBox>,
      entries(untranslated("data", "dB")), true, abc, addedBC, abc, {"@icon", "dataAdded", "dB"}, {}, 1},
     {"VoCc::OptionButtons", "Edit Buttons", "Edit OptionButtons", {"text", "icon", "tooltip", "data"}, "Change OptionButtons Contents", shownByButtons<VoCc::OptionButtons>,
@@ -262,15 +255,8 @@ const Family &pageGroupFamily = families[5];
 // A form holding one widget of the family, named "edited".
 QString familyForm(const Family &family)
 {
-    return formXml(QStringLiteral("<widget class=\"%1\" name=\"edited\">%2</widget>\n")
-                           .arg(QLatin1String(family.className), family.entriesXml),
-                   QStringLiteral("<customwidget><class>VoCc::DrawbackBoxGroup</class><extends>"
-                                  "QWidget</extends><addpagemethod>addPage</addpagemethod>"
-                                  "</customwidget>"));
-}
-QWidget *editedWidget(QDesignerFormWindowInterface *form)
-{
-    return form->mainContainer()->findChild<QWidget *>(QStringLiteral("edited"));
+    return formXml(widgetXml(family.className, "edited", family.entriesXml),
+                   pageGroupDeclaration());
 }
 
 // The form as Undo must give it back: the page group is left on its last page by every
@@ -417,24 +403,12 @@ void act(Driver &dialog, const Family &family, const Action &action)
     }
 }
 
-// Warnings raised while a session runs; the offscreen platform's own notes are not ours.
-QStringList warnings;
-QtMessageHandler previousHandler = nullptr;
-void collectWarnings(QtMsgType type, const QMessageLogContext &context, const QString &message)
-{
-    if (message.contains(QLatin1String("propagateSizeHints")))
-        return;
-    if (type != QtDebugMsg && type != QtInfoMsg)
-        warnings << message;
-    previousHandler(type, context, message);
-}
-
 // The first promise a form breaks after a step, or an empty text.
 QString brokenPromise(QDesignerFormWindowInterface *form, const Family &family,
                       const QString &start, const QString &lastEdit)
 {
     const QString now = form->contents();
-    const QStringList shown = family.shown(editedWidget(form));
+    const QStringList shown = family.shown(formChild(form, "edited"));
     if (shown != shownAtRunTime(family, now))
         return QStringLiteral("the widget shows %1, its form says %2")
                 .arg(shown.join(QLatin1Char('|')),
@@ -459,8 +433,6 @@ QString brokenPromise(QDesignerFormWindowInterface *form, const Family &family,
                 .arg(redone, lastEdit);
     if (comparable(family, form->contents()) != comparable(family, now))
         return QStringLiteral("undoing and redoing to the same place changes the form");
-    if (!warnings.isEmpty())
-        return QStringLiteral("warned: ") + warnings.join(QStringLiteral(" | "));
     return QString();
 }
 
@@ -476,7 +448,7 @@ QString runSession(const Session &session)
         const Step &step = session.steps.at(i);
         QUndoStack *history = form->commandHistory();
         const int before = history->index();
-        warnings.clear();
+        const WarningLog log;
         if (step.kind == 'U' || step.kind == 'R')
             history->setIndex(qBound(0, before + (step.kind == 'U' ? -step.count : step.count),
                                      history->count()));
@@ -488,7 +460,7 @@ QString runSession(const Session &session)
         }
         if (step.kind == 'E') {
             edit(
-                    editedWidget(form),
+                    formChild(form, "edited"),
                     [&](Driver &dialog) {
                         for (const Action &action : step.actions)
                             act(dialog, family, action);
@@ -499,6 +471,8 @@ QString runSession(const Session &session)
         }
         settle();
         broken = brokenPromise(form, family, start, lastEdit);
+        if (broken.isEmpty() && !log.warnings.isEmpty())
+            broken = QStringLiteral("warned: ") + log.warnings.join(QStringLiteral(" | "));
         if (broken.isEmpty() && dialogCount() != dialogs)
             broken = QStringLiteral("an editor outlived its edit");
         if (broken.isEmpty() && QTest::currentTestFailed())
@@ -560,7 +534,7 @@ private slots:
         const Script *scripts = family.list ? listScripts : matrixScripts;
         QDesignerFormWindowInterface *form = createFormWindow(familyForm(family));
         const auto closeForm = qScopeGuard([form] { closeFormWindow(form); });
-        QWidget *widget = editedWidget(form);
+        QWidget *widget = formChild(form, "edited");
         QVERIFY(widget);
         QCOMPARE(family.shown(widget), family.opened);
         QUndoStack *history = form->commandHistory();
@@ -609,7 +583,7 @@ private slots:
     {
         QDesignerFormWindowInterface *form = createFormWindow(familyForm(pageGroupFamily));
         const auto closeForm = qScopeGuard([form] { closeFormWindow(form); });
-        auto *group = qobject_cast<VoCc::DrawbackBoxGroup *>(editedWidget(form));
+        auto *group = formChild<VoCc::DrawbackBoxGroup>(form, "edited");
         QVERIFY(group);
         auto pages = [group] {
             QWidgetList list;
@@ -681,14 +655,8 @@ private slots:
 
     void randomSessions()
     {
-        previousHandler = qInstallMessageHandler(collectWarnings);
-        const auto restore = qScopeGuard([] { qInstallMessageHandler(previousHandler); });
-        const int sessions = qEnvironmentVariableIsSet("CC_RANDOM_SESSIONS")
-                ? qEnvironmentVariableIntValue("CC_RANDOM_SESSIONS")
-                : 300;
-        const auto seed = quint32(qEnvironmentVariableIsSet("CC_RANDOM_SEED")
-                                          ? qEnvironmentVariableIntValue("CC_RANDOM_SEED")
-                                          : 1);
+        const int sessions = qEnvironmentVariable("CC_RANDOM_SESSIONS", "300").toInt();
+        const quint32 seed = qEnvironmentVariable("CC_RANDOM_SEED", "1").toUInt();
         QElapsedTimer clock;
         clock.start();
         for (int i = 0; i < sessions; ++i) {
