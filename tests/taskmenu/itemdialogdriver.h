@@ -142,11 +142,7 @@ public:
 private:
     QTreeWidgetItem *propertyItem(const QString &name) const
     {
-        for (int i = 0; i < m_pane->topLevelItemCount(); ++i) {
-            if (m_pane->topLevelItem(i)->text(0) == name)
-                return m_pane->topLevelItem(i);
-        }
-        return nullptr;
+        return m_pane->findItems(name, Qt::MatchExactly).value(0);
     }
     void openPropertyEditor(const QString &name)
     {

@@ -308,13 +308,10 @@ QString describe(const Session &session)
                            .arg(session.seed)
                            .arg(QLatin1String(families[session.family].className));
     for (const Step &step : session.steps) {
-        text += QStringLiteral("\n  %1 x%2").arg(QLatin1Char(step.kind)).arg(step.count);
+        text += QString::asprintf("\n  %c x%d", step.kind, step.count);
         for (const Action &action : step.actions)
-            text += QStringLiteral(" %1(%2,%3,%4)")
-                            .arg(QLatin1Char(action.act))
-                            .arg(action.a)
-                            .arg(action.b)
-                            .arg(action.text);
+            text += QString::asprintf(" %c(%d,%d,%s)", action.act, action.a, action.b,
+                                      qUtf8Printable(action.text));
         if (!step.accept)
             text += QStringLiteral(" Cancel");
     }
@@ -409,10 +406,10 @@ QString brokenPromise(QDesignerFormWindowInterface *form, const Family &family,
 {
     const QString now = form->contents();
     const QStringList shown = family.shown(formChild(form, "edited"));
-    if (shown != shownAtRunTime(family, now))
+    const QStringList said = shownAtRunTime(family, now);
+    if (shown != said)
         return QStringLiteral("the widget shows %1, its form says %2")
-                .arg(shown.join(QLatin1Char('|')),
-                     shownAtRunTime(family, now).join(QLatin1Char('|')));
+                .arg(shown.join(QLatin1Char('|')), said.join(QLatin1Char('|')));
     QDesignerFormWindowInterface *loaded = createFormWindow(now);
     const QString saved = loaded->contents();
     closeFormWindow(loaded);
