@@ -9,6 +9,8 @@
 #include "modalanswer.h"
 
 #include <nui/CommonControls/CcComboBox.hpp>
+#include <nui/CommonControls/CcDrawbackBoxGroup.hpp>
+#include <nui/CommonControls/CcMatrixButtons.hpp>
 
 #include <QDesignerFormEditorInterface>
 #include <QDesignerFormWindowCursorInterface>
@@ -39,20 +41,16 @@ quintptr previousRemove = 0;
 
 void objectAdded(QObject *object)
 {
-    {
-        QMutexLocker locker(&trackedLock);
-        tracked.insert(object);
-    }
+    QMutexLocker locker(&trackedLock);
+    tracked.insert(object);
     if (previousAdd)
         reinterpret_cast<QHooks::AddQObjectCallback>(previousAdd)(object);
 }
 
 void objectRemoved(QObject *object)
 {
-    {
-        QMutexLocker locker(&trackedLock);
-        tracked.remove(object);
-    }
+    QMutexLocker locker(&trackedLock);
+    tracked.remove(object);
     if (previousRemove)
         reinterpret_cast<QHooks::RemoveQObjectCallback>(previousRemove)(object);
 }
@@ -169,8 +167,7 @@ private:
     {
         // Every widget of ours selected and a property of them all changed.
         QWidgetList ours;
-        const QWidgetList children = form->mainContainer()->findChildren<QWidget *>();
-        for (QWidget *widget : children) {
+        for (QWidget *widget : form->mainContainer()->findChildren<QWidget *>()) {
             if (form->isManaged(widget)
                 && qstrncmp(widget->metaObject()->className(), "VoCc::", 6) == 0)
                 ours << widget;
@@ -183,23 +180,15 @@ private:
         QVERIFY(!ours.constLast()->isEnabled());
 
         // Item edits of a list, a page group and a matrix through their context-menu entries.
-        auto child = [form](const char *className) {
-            for (QWidget *widget : form->mainContainer()->findChildren<QWidget *>()) {
-                if (qstrcmp(widget->metaObject()->className(), className) == 0)
-                    return widget;
-            }
-            return static_cast<QWidget *>(nullptr);
-        };
         auto addEntry = [](Driver &dialog) {
             dialog.addRow(QStringLiteral("n"));
             dialog.typeProperty(QStringLiteral("text"), QStringLiteral("r"));
         };
-        QVERIFY(CcTest::edit(child("VoCc::ComboBox"), addEntry));
-        QVERIFY(CcTest::edit(child("VoCc::DrawbackBoxGroup"), addEntry));
-        QVERIFY(CcTest::edit(child("VoCc::MatrixPushButtons"), [](Driver &dialog) {
-            auto *rows =
-                    dialog.table()->window()->findChild<QSpinBox *>(QStringLiteral("rowCounts"));
-            dialog.stepTo("rowCounts", rows->value() + 1);
+        QWidget *main = form->mainContainer();
+        QVERIFY(CcTest::edit(main->findChild<VoCc::ComboBox *>(), addEntry));
+        QVERIFY(CcTest::edit(main->findChild<VoCc::DrawbackBoxGroup *>(), addEntry));
+        QVERIFY(CcTest::edit(main->findChild<VoCc::MatrixPushButtons *>(), [](Driver &dialog) {
+            dialog.stepTo("rowCounts", dialog.child<QSpinBox>("rowCounts")->value() + 1);
             dialog.selectCell(0, 0);
             dialog.typeProperty(QStringLiteral("toolTip"), QStringLiteral("t"));
         }));

@@ -174,11 +174,11 @@ class TestPluginInDesigner : public QObject
     QObject *m_collection = nullptr;
     QList<QDesignerCustomWidgetInterface *> m_widgets;
 
-    QObject *pluginObject(const char *pluginClass) const
+    QDesignerCustomWidgetInterface *plugin(const char *pluginClass) const
     {
         for (QObject *plugin : m_collection->children()) {
             if (qstrcmp(plugin->metaObject()->className(), pluginClass) == 0)
-                return plugin;
+                return qobject_cast<QDesignerCustomWidgetInterface *>(plugin);
         }
         return nullptr;
     }
@@ -243,9 +243,9 @@ private slots:
     void propertyEditsRepaintOncePerCreatedWidget()
     {
         QDesignerPropertyEditorInterface *editor = CcTest::designerCore()->propertyEditor();
-        QObject *plugin = pluginObject("ListViewPlugin");
-        QVERIFY(plugin);
-        countedObject = plugin;
+        QDesignerCustomWidgetInterface *listViews = plugin("ListViewPlugin");
+        QVERIFY(listViews);
+        countedObject = dynamic_cast<QObject *>(listViews);
         static QSignalSpyCallbackSet hooks = {nullptr, countSlot, nullptr, nullptr};
         qt_register_signal_spy_callbacks(&hooks);
         const auto unhook = qScopeGuard([] { qt_register_signal_spy_callbacks(nullptr); });
@@ -264,8 +264,7 @@ private slots:
 
         // Each run repaints the edited list view. A form window is never shown here, so a
         // shown list view stands in for the edited one.
-        QScopedPointer<QWidget> shown(
-                qobject_cast<QDesignerCustomWidgetInterface *>(plugin)->createWidget(nullptr));
+        QScopedPointer<QWidget> shown(listViews->createWidget(nullptr));
         shown->show();
         QVERIFY(QTest::qWaitForWindowExposed(shown.data()));
         editor->setObject(shown.data());
@@ -346,9 +345,7 @@ private slots:
         // Outside any form (a preview) a page switch or a title edit selects nothing.
         QWidget holder;
         auto *preview = static_cast<VoCc::DrawbackBoxGroup *>(
-                qobject_cast<QDesignerCustomWidgetInterface *>(
-                        pluginObject("DrawbackBoxGroupPlugin"))
-                        ->createWidget(&holder));
+                plugin("DrawbackBoxGroupPlugin")->createWidget(&holder));
         preview->addPage(new QWidget);
         preview->addPage(new QWidget);
         preview->setCurrentIndex(1);
@@ -428,14 +425,14 @@ private slots:
         QDesignerFormEditorInterface *core = CcTest::designerCore();
         QDesignerFormWindowInterface *form = CcTest::createFormWindow(formWithExtras);
         QWidget *main = form->mainContainer();
-        QList<QWidget *> widgets = main->findChildren<QWidget *>();
-        widgets.prepend(main);
+        const auto extraInfo = [core](QObject *object) {
+            return qt_extension<QDesignerExtraInfoExtension *>(core->extensionManager(), object);
+        };
         int served = 0;
-        for (QWidget *widget : widgets) {
+        for (QWidget *widget : QWidgetList({main}) + main->findChildren<QWidget *>()) {
             if (!form->isManaged(widget))
                 continue;
-            auto *extension =
-                    qt_extension<QDesignerExtraInfoExtension *>(core->extensionManager(), widget);
+            QDesignerExtraInfoExtension *extension = extraInfo(widget);
             QVERIFY2(extension, qPrintable(widget->objectName()));
             QCOMPARE(extension->widget(), widget);
             QCOMPARE(extension->core(), core);
@@ -444,11 +441,8 @@ private slots:
         QCOMPARE(served, 5); // Form, holder, options, button, matrix
 
         // An action and a layout are not widgets.
-        QVERIFY(!qt_extension<QDesignerExtraInfoExtension *>(
-                core->extensionManager(),
-                main->findChild<QAction *>(QStringLiteral("openAction"))));
-        QVERIFY(!qt_extension<QDesignerExtraInfoExtension *>(
-                core->extensionManager(), main->findChild<QLayout *>(QStringLiteral("column"))));
+        QVERIFY(!extraInfo(main->findChild<QAction *>(QStringLiteral("openAction"))));
+        QVERIFY(!extraInfo(main->findChild<QLayout *>(QStringLiteral("column"))));
 
         CcTest::closeFormWindow(form);
     }
