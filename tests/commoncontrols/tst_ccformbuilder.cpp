@@ -1,6 +1,7 @@
 // VoCc::FormBuilder: the entries of the list-like widgets through .ui text and back; the
 // example form as the builder loads it and as uic compiles it.
 #include "ui_allwidgets.h"
+#include "uixml.h"
 #include "warninglog.h"
 
 #include <nui/CommonControls/CcFormBuilder.hpp>
@@ -18,6 +19,7 @@
 #include <QXmlStreamWriter>
 
 using namespace VoCc;
+using namespace CcTest;
 
 namespace {
 
@@ -228,8 +230,7 @@ private slots:
         options->setTextList({QStringLiteral("One"), QString(), QStringLiteral("Three")});
         options->setIconList({QStringLiteral("ok.png"), QString(), QStringLiteral("/missing.png")});
         options->setToolTips({QStringLiteral("first")});
-        options->setDataList({QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("3"),
-                              QStringLiteral("4")});
+        options->setDataList({"1", "2", "3", "4"});
         options->setCurrentIndex(2);
         const QString saved = saveForm(&form);
         // Texts and tool tips are for translation, data are not.
@@ -247,43 +248,35 @@ private slots:
 
     void badAndPartialDataLoadQuietly()
     {
-        const QString body = QStringLiteral(
-                // Unequal entries, an empty item, an unknown property, numbers for strings and
-                // an icon that does not exist.
-                "<widget class=\"VoCc::OptionButtons\" name=\"buttons\">"
-                " <item><property name=\"text\"><string>A</string></property>"
-                "  <property name=\"colour\"><string>red</string></property>"
-                "  <property name=\"icon\"><string>/no/such/icon.png</string></property></item>"
-                " <item/>"
-                " <item><property name=\"data\"><number>7</number></property></item>"
-                " <item><property name=\"toolTip\"/></item>"
-                "</widget>"
-                // Items on a widget that has none, and a matrix larger than its entries.
-                "<widget class=\"VoCc::Angle\" name=\"angle\">"
-                " <item><property name=\"text\"><string>ignored</string></property></item>"
-                "</widget>"
-                "<widget class=\"VoCc::MatrixCheckBoxes\" name=\"matrix\">"
-                " <property name=\"row\"><number>4</number></property>"
-                " <property name=\"column\"><number>4</number></property>"
-                " <item><property name=\"icon\"><iconset><normaloff>/missing.png</normaloff>"
-                "/missing.png</iconset></property></item>"
-                "</widget>"
-                // A page group whose current page does not exist; pop buttons with a bad textList
-                // and their texts in the items, as a hand may write them.
-                "<widget class=\"VoCc::DrawbackBoxGroup\" name=\"group\">"
-                " <property name=\"currentIndex\"><number>5</number></property>"
-                " <widget class=\"QWidget\" name=\"page\"/>"
-                "</widget>"
-                "<widget class=\"VoCc::MatrixPopButtons\" name=\"pop\">"
-                " <property name=\"textList\"><string>not a list</string></property>"
-                " <item><property name=\"text\"><string>A</string></property></item>"
-                " <item><property name=\"text\"><string>B</string></property>"
-                "  <property name=\"action\"><string>doB</string></property></item>"
-                "</widget>"
-                "<widget class=\"VoCc::CheckableTextComboBox\" name=\"check\">"
-                " <item><property name=\"toolTip\"><string>only a tip</string></property></item>"
-                "</widget>");
-        const CcTest::WarningLog log;
+        const QString textA = propertyXml("text", "A");
+        const QString missingIcon = QStringLiteral(
+                "<property name=\"icon\"><iconset><normaloff>/missing.png</normaloff>"
+                "/missing.png</iconset></property>");
+        // Unequal entries, an empty item, an unknown property, numbers for strings and an icon
+        // that does not exist.
+        QString body =
+                widgetXml("VoCc::OptionButtons", "buttons",
+                          itemXml(textA + propertyXml("colour", "red")
+                                  + propertyXml("icon", "/no/such/icon.png"))
+                                  + itemXml(QString()) + itemXml(propertyXml("data", "7", "number"))
+                                  + itemXml(QStringLiteral("<property name=\"toolTip\"/>")));
+        // Items on a widget that has none, and a matrix larger than its entries.
+        body += widgetXml("VoCc::Angle", "angle", itemXml(propertyXml("text", "ignored")));
+        body += widgetXml("VoCc::MatrixCheckBoxes", "matrix",
+                          propertyXml("row", "4", "number") + propertyXml("column", "4", "number")
+                                  + itemXml(missingIcon));
+        // A page group whose current page does not exist; pop buttons with a bad textList and
+        // their texts in the items, as a hand may write them.
+        body += widgetXml("VoCc::DrawbackBoxGroup", "group",
+                          propertyXml("currentIndex", "5", "number")
+                                  + widgetXml("QWidget", "page"));
+        body += widgetXml(
+                "VoCc::MatrixPopButtons", "pop",
+                propertyXml("textList", "not a list") + itemXml(textA)
+                        + itemXml(propertyXml("text", "B") + propertyXml("action", "doB")));
+        body += widgetXml("VoCc::CheckableTextComboBox", "check",
+                          itemXml(propertyXml("toolTip", "only a tip")));
+        const WarningLog log;
         QScopedPointer<QWidget> form(loadForm(formText(body)));
         QVERIFY(form);
         // What is left out is named once per widget (the unknown item property, the Angle's
@@ -294,8 +287,7 @@ private slots:
                  qPrintable(said));
 
         auto *buttons = form->findChild<OptionButtons *>();
-        QCOMPARE(buttons->textList(),
-                 (QStringList {QStringLiteral("A"), QString(), QString(), QString()}));
+        QCOMPARE(buttons->textList(), QStringList({"A", "", "", ""}));
         QCOMPARE(buttons->dataList().value(2), QStringLiteral("7"));
         QCOMPARE(buttons->iconList().value(0), QStringLiteral("/no/such/icon.png"));
         QVERIFY(buttons->button(0)->icon().isNull());
@@ -377,14 +369,12 @@ private slots:
     {
         // The editors offer 1 to 99 rows and columns; a form asking for more gets 99.
         QFETCH(QString, className);
-        const QString body =
-                QStringLiteral("<widget class=\"%1\" name=\"grid\">"
-                               " <property name=\"row\"><number>65536</number></property>"
-                               " <property name=\"column\"><number>3</number></property>"
-                               " <item><property name=\"text\"><string>A</string></property></item>"
-                               "</widget>");
-        const CcTest::WarningLog log;
-        QScopedPointer<QWidget> form(loadForm(formText(body.arg(className))));
+        const QString body = widgetXml(qPrintable(className), "grid",
+                                       propertyXml("row", "65536", "number")
+                                               + propertyXml("column", "3", "number")
+                                               + itemXml(propertyXml("text", "A")));
+        const WarningLog log;
+        QScopedPointer<QWidget> form(loadForm(formText(body)));
         QVERIFY(form);
         QCOMPARE(log.warnings.size(), 1);
         for (const QString &named :
@@ -412,15 +402,10 @@ private slots:
         // An entry keeps its whole text; widgets show its first 1,000 characters. A combo box's
         // items are its entries, so their texts are cut on loading, with one warning.
         const QString longText = QString(5000, QLatin1Char('x'));
-        const QString item =
-                QStringLiteral(
-                        "<item><property name=\"text\"><string>%1</string></property></item>")
-                        .arg(longText);
-        const QString body =
-                QStringLiteral("<widget class=\"VoCc::OptionButtons\" name=\"options\">%1</widget>"
-                               "<widget class=\"VoCc::ComboBox\" name=\"combo\">%1%1</widget>")
-                        .arg(item);
-        const CcTest::WarningLog log;
+        const QString item = itemXml(propertyXml("text", qPrintable(longText)));
+        const QString body = widgetXml("VoCc::OptionButtons", "options", item)
+                + widgetXml("VoCc::ComboBox", "combo", item + item);
+        const WarningLog log;
         QScopedPointer<QWidget> form(loadForm(formText(body)));
         auto *options = form->findChild<OptionButtons *>();
         QCOMPARE(options->textList(), QStringList {longText});
