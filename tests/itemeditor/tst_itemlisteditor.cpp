@@ -20,6 +20,7 @@
 
 using namespace qdesigner_internal;
 using CcTest::openEditor;
+using CcTest::stringOf;
 
 namespace {
 
@@ -42,11 +43,6 @@ QListWidgetItem *makeItem(const QString &text)
     item->setData(Qt::DisplayPropertyRole, CcTest::stringValue(text));
     item->setFlags(item->flags() | Qt::ItemIsEditable);
     return item;
-}
-
-PropertySheetStringValue stringOf(const QVariant &value)
-{
-    return qvariant_cast<PropertySheetStringValue>(value);
 }
 
 int freshItemFlags() { return int(QListWidgetItem().flags()); }
@@ -181,11 +177,8 @@ private slots:
         const struct
         {
             const char *property;
-            int mode;
-            int role;
-            int plainRole;
-            QVariant value;
-            QVariant defaultValue;
+            int mode, role, plainRole;
+            QVariant value, defaultValue;
         } cases[] = {
                 {"text", ValidationMultiLine, Qt::DisplayPropertyRole, Qt::EditRole,
                  CcTest::stringValue("two\nlines"), {}},

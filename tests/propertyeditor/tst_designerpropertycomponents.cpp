@@ -30,6 +30,7 @@
 #include <dlfcn.h>
 
 using namespace qdesigner_internal;
+using CcTest::stringOf;
 using CcTest::subProperty;
 
 namespace {
@@ -37,8 +38,8 @@ namespace {
 // Our manager and factory on a tree browser, as the item editors' pane uses them.
 struct Pane
 {
-    explicit Pane(QDesignerFormEditorInterface *core, QObject *object = nullptr)
-        : manager(core, nullptr), factory(core, nullptr)
+    explicit Pane(QObject *object = nullptr)
+        : manager(CcTest::designerCore(), nullptr), factory(CcTest::designerCore(), nullptr)
     {
         manager.setObject(object);
         browser.setFactoryForManager(static_cast<QtVariantPropertyManager *>(&manager),
@@ -65,11 +66,6 @@ struct Pane
     QtTreePropertyBrowser browser;
 };
 
-PropertySheetStringValue stringOf(const QtVariantProperty *property)
-{
-    return qvariant_cast<PropertySheetStringValue>(property->value());
-}
-
 PropertySheetIconValue iconOf(const QtVariantProperty *property)
 {
     return qvariant_cast<PropertySheetIconValue>(property->value());
@@ -84,7 +80,6 @@ private slots:
     void initTestCase()
     {
         CcTest::usePluginModulesOnly({});
-        m_core = CcTest::designerCore();
         m_form = CcTest::createFormWindow(
                 CcTest::formXml(QStringLiteral("<widget class=\"QLabel\" name=\"label\"/>")));
         m_label = CcTest::formChild(m_form, "label");
@@ -94,7 +89,7 @@ private slots:
 
     void stringModesTranslationDataAndDialogs()
     {
-        Pane pane(m_core);
+        Pane pane;
         const int type = DesignerPropertyManager::designerStringTypeId();
         QtVariantProperty *multi = pane.add(type, "multi");
         QtVariantProperty *rich = pane.add(type, "rich");
@@ -113,7 +108,7 @@ private slots:
                 [&changed](QtProperty *, const QVariant &, bool flag) { changed.append(flag); });
         multi->setValue(QStringLiteral("one\ntwo"));
         multi->setValue(QStringLiteral("one\ntwo")); // no change, no report
-        QCOMPARE(stringOf(multi), PropertySheetStringValue(QStringLiteral("one\ntwo")));
+        QCOMPARE(stringOf(multi->value()), PropertySheetStringValue(QStringLiteral("one\ntwo")));
         QCOMPARE(multi->valueText(), QStringLiteral("one\\ntwo"));
         QCOMPARE(changed, QList<bool>({true}));
 
@@ -121,7 +116,7 @@ private slots:
         auto *singleEditor = CcTest::openEditor<TextEditor>(&pane.browser, single);
         QVERIFY(singleEditor && !singleEditor->dialogButton()->isVisibleTo(singleEditor));
         QTest::keyClicks(singleEditor->findChild<QLineEdit *>(), QStringLiteral("typed"));
-        QCOMPARE(stringOf(single).value(), QStringLiteral("typed"));
+        QCOMPARE(stringOf(single->value()).value(), QStringLiteral("typed"));
 
         // The translation data are sub-properties, filled from the value and written back to it.
         multi->setValue(QVariant::fromValue(PropertySheetStringValue(
@@ -130,7 +125,7 @@ private slots:
         QCOMPARE(subProperty(multi, QStringLiteral("disambiguation"))->valueText(),
                  QStringLiteral("menu"));
         comment->setValue(QStringLiteral("a verb"));
-        QCOMPARE(stringOf(multi).comment(), QStringLiteral("a verb"));
+        QCOMPARE(stringOf(multi->value()).comment(), QStringLiteral("a verb"));
         // They have no reset of their own.
         auto *commentEditor = CcTest::openEditor<QLineEdit>(&pane.browser, comment);
         QVERIFY(commentEditor && !qobject_cast<ResetWidget *>(commentEditor->parentWidget()));
@@ -146,7 +141,7 @@ private slots:
                     dialog->setText(QStringLiteral("first\nsecond"));
                 }));
         QCOMPARE(shownText, QStringLiteral("old"));
-        QCOMPARE(stringOf(multi),
+        QCOMPARE(stringOf(multi->value()),
                  PropertySheetStringValue(QStringLiteral("first\nsecond"), false,
                                           QStringLiteral("menu"), QStringLiteral("a verb")));
 
@@ -160,13 +155,13 @@ private slots:
                         d->setText(QLatin1String(accept ? "<b>bold</b>" : "<i>never</i>"));
                     },
                     accept));
-            QCOMPARE(stringOf(rich).value(), QStringLiteral("<b>bold</b>"));
+            QCOMPARE(stringOf(rich->value()).value(), QStringLiteral("<b>bold</b>"));
         }
     }
 
     void iconStatesThemeResourcesAndReload()
     {
-        Pane pane(m_core, m_label);
+        Pane pane(m_label);
         auto *formBase = qobject_cast<FormWindowBase *>(m_form);
         pane.factory.setFormWindowBase(formBase);
         QtVariantProperty *icon = pane.add(DesignerPropertyManager::designerIconTypeId(), "icon");
@@ -225,7 +220,7 @@ private slots:
 
     void fontParts()
     {
-        Pane pane(m_core, m_label);
+        Pane pane(m_label);
         QtVariantProperty *font = pane.add(QVariant::Font, "font");
         QtVariantProperty *size = subProperty(font, QStringLiteral("Point Size"));
         QtVariantProperty *bold = subProperty(font, QStringLiteral("Bold"));
@@ -260,9 +255,9 @@ private slots:
     {
         // Designer's property editor shows a widget: its own private copies of the property
         // classes are alive in this process, under the same class names as ours.
-        QDesignerPropertyEditorInterface *designerEditor = m_core->propertyEditor();
+        QDesignerPropertyEditorInterface *designerEditor = CcTest::designerCore()->propertyEditor();
         designerEditor->setObject(m_label);
-        Pane pane(m_core, m_label);
+        Pane pane(m_label);
         const QObject *ours[] = {&pane.manager, &pane.factory, &pane.browser};
         // Our base classes: a cast to any of ours passes through one of them.
         const QMetaObject *ourClasses[] = {&QtAbstractPropertyManager::staticMetaObject,
@@ -321,7 +316,6 @@ private slots:
     }
 
 private:
-    QDesignerFormEditorInterface *m_core = nullptr;
     QDesignerFormWindowInterface *m_form = nullptr;
     QWidget *m_label = nullptr;
     CcTest::TestPictures m_pictures;
