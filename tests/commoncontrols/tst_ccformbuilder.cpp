@@ -60,7 +60,6 @@ QString elementText(const DomWidget *element)
 // The widget elements of a form document by name (the builder writes it as a property), nested
 // ones and those in layouts included.
 using Elements = QMap<QString, DomWidget *>;
-void collectElements(DomLayout *layout, Elements &elements);
 void collectElements(DomWidget *element, Elements &elements)
 {
     QString name = element->attributeName();
@@ -69,19 +68,18 @@ void collectElements(DomWidget *element, Elements &elements)
             name = property->elementString()->text();
     }
     elements.insert(name, element);
-    for (DomWidget *child : element->elementWidget())
-        collectElements(child, elements);
-    for (DomLayout *layout : element->elementLayout())
-        collectElements(layout, elements);
-}
-void collectElements(DomLayout *layout, Elements &elements)
-{
-    for (DomLayoutItem *item : layout->elementItem()) {
-        if (item->elementWidget())
-            collectElements(item->elementWidget(), elements);
-        if (item->elementLayout())
-            collectElements(item->elementLayout(), elements);
+    auto children = element->elementWidget();
+    auto layouts = element->elementLayout();
+    while (!layouts.isEmpty()) {
+        for (DomLayoutItem *item : layouts.takeFirst()->elementItem()) {
+            if (item->elementWidget())
+                children << item->elementWidget();
+            if (item->elementLayout())
+                layouts << item->elementLayout();
+        }
     }
+    for (DomWidget *child : qAsConst(children))
+        collectElements(child, elements);
 }
 Elements elementsOf(const QString &ui, DomUI *document)
 {

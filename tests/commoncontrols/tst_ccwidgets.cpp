@@ -27,6 +27,15 @@ namespace {
 const QString okIcon =
         QStringLiteral(":/qt-project.org/styles/commonstyle/images/standardbutton-ok-16.png");
 
+// prefix0, prefix1... as many as count.
+QStringList numbered(const char *prefix, int count)
+{
+    QStringList list;
+    for (int i = 0; i < count; ++i)
+        list << QLatin1String(prefix) + QString::number(i);
+    return list;
+}
+
 QAbstractButton *optionButton(AbstractOptions *options, int index)
 {
     if (auto *buttons = qobject_cast<OptionButtons *>(options))
@@ -114,16 +123,10 @@ void checkGrid(Grid *grid)
 {
     grid->setRow(3);
     grid->setColumn(4);
-    QStringList texts, tips, actions;
-    for (int i = 0; i < 12; ++i) {
-        texts << QStringLiteral("b%1").arg(i);
-        tips << QStringLiteral("tip %1").arg(i);
-        actions << QStringLiteral("act%1").arg(i);
-    }
-    grid->setTextList(texts);
+    grid->setTextList(numbered("b", 12));
     grid->setIconList({okIcon});
-    grid->setToolTips(tips);
-    grid->setActionList(actions);
+    grid->setToolTips(numbered("tip ", 12));
+    grid->setActionList(numbered("act", 12));
     QCOMPARE(grid->buttonCount(), 12);
     QCOMPARE(grid->button(11)->text(), QStringLiteral("b11"));
     QCOMPARE(grid->button(11)->toolTip(), QStringLiteral("tip 11"));
@@ -205,10 +208,7 @@ private slots:
             // An entry that is not there yet becomes current once it is.
             options->setCurrentIndex(5);
             check(2, "");
-            QStringList many;
-            for (int i = 0; i < 40; ++i)
-                many << QStringLiteral("e%1").arg(i);
-            options->setTextList(many);
+            options->setTextList(numbered("e", 40));
             check(5, "5");
             if (options != &checkBox) {
                 // A user's pick; fewer entries by many leave those that stay working.
@@ -251,8 +251,7 @@ private slots:
         CheckableTextComboBox box;
         // Checked texts set before the entries exist apply once they do.
         box.setCheckedTexts({QStringLiteral("Blue")});
-        box.setItemTextList(
-                {QStringLiteral("Red"), QStringLiteral("Green"), QStringLiteral("Blue")});
+        box.setItemTextList({"Red", "Green", "Blue"});
         box.setToolTips({QStringLiteral("warm")});
         QCOMPARE(box.comboBox()->count(), 3);
         QCOMPARE(box.toolTips(), QStringList {QStringLiteral("warm")});
