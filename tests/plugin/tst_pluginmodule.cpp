@@ -2,8 +2,6 @@
 
 #include "designertestcore.h"
 
-#include <extrainfoextension.h>
-#include <extrainfoextensionfactory.h>
 #include <widgetpluginrow.h>
 
 #include <QDesignerFormEditorInterface>
@@ -11,7 +9,6 @@
 #include <QLibrary>
 #include <QPluginLoader>
 #include <QPointer>
-#include <QPushButton>
 #include <QtTest>
 #include <QtUiPlugin/QDesignerCustomWidgetCollectionInterface>
 #include <QtUiPlugin/QDesignerCustomWidgetInterface>
@@ -66,12 +63,6 @@ private slots:
                               "DrawbackBoxGroupExtensionFactory", "DrawbackBoxFactory",
                               "MatrixCheckBoxesFactory", "MatrixPopButtonsFactory",
                               "MatrixPushButtonsFactory", "MatrixRadioButtonsFactory"}));
-        QVERIFY(dynamic_cast<ExtraInfoExtensionFactory *>(registered.at(1)));
-        QPushButton button;
-        auto *extension = qobject_cast<ExtraInfoExtension *>(
-                manager->extension(&button, QLatin1String(QDesignerExtraInfoExtension_iid)));
-        QVERIFY(extension);
-        QCOMPARE(extension->core(), core);
     }
 
     void deletingTheCollectionDeletesEachPluginOnce()
