@@ -362,42 +362,24 @@ void act(Driver &dialog, const Family &family, const Action &action)
             : dialog.table()->currentRow() >= 0 && dialog.table()->currentColumn() >= 0;
     const bool pane = !dialog.propertyNames().isEmpty();
     const QStringList strings = family.properties.filter(QRegularExpression("^(?!icon$)"));
-    switch (action.act) {
-    case 's':
-        if (rows > 0)
-            dialog.select(action.a % rows);
-        break;
-    case 'n':
+    if (action.act == 's' && rows > 0)
+        dialog.select(action.a % rows);
+    else if (action.act == 'n')
         dialog.addRow(action.text);
-        break;
-    case 'd':
-    case 'u':
-    case 'D':
+    else if (action.act == 'd' || action.act == 'u' || action.act == 'D')
         dialog.click(action.act == 'd'           ? "deleteListItemButton"
                              : action.act == 'u' ? "moveListItemUpButton"
                                                  : "moveListItemDownButton");
-        break;
-    case 'r':
-        if (current)
-            dialog.renameCurrent(action.text);
-        break;
-    case 'p':
-        if (pane)
-            dialog.typeProperty(strings.at(action.a % strings.size()), action.text);
-        break;
-    case 'i':
-        if (pane && family.properties.contains(QStringLiteral("icon")))
-            dialog.chooseIconFile(QStringLiteral("icon"), testIcon);
-        break;
-    case 'R':
-    case 'C':
+    else if (action.act == 'r' && current)
+        dialog.renameCurrent(action.text);
+    else if (action.act == 'p' && pane)
+        dialog.typeProperty(strings.at(action.a % strings.size()), action.text);
+    else if (action.act == 'i' && pane && family.properties.contains(QStringLiteral("icon")))
+        dialog.chooseIconFile(QStringLiteral("icon"), testIcon);
+    else if (action.act == 'R' || action.act == 'C')
         dialog.stepTo(action.act == 'R' ? "rowCounts" : "colCounts", 1 + action.a % 5);
-        break;
-    case 'c':
-        if (rows > 0 && columns > 0)
-            dialog.selectCell(action.a % rows, action.b % columns);
-        break;
-    }
+    else if (action.act == 'c' && rows > 0 && columns > 0)
+        dialog.selectCell(action.a % rows, action.b % columns);
 }
 
 // The first promise a form breaks after a step, or an empty text.
@@ -456,13 +438,11 @@ QString runSession(const Session &session)
             start = lastEdit = form->contents();
         }
         if (step.kind == 'E') {
-            edit(
-                    formChild(form, "edited"),
-                    [&](Driver &dialog) {
-                        for (const Action &action : step.actions)
-                            act(dialog, family, action);
-                    },
-                    step.accept);
+            const auto actions = [&](Driver &dialog) {
+                for (const Action &action : step.actions)
+                    act(dialog, family, action);
+            };
+            edit(formChild(form, "edited"), actions, step.accept);
             if (history->index() != before)
                 lastEdit = form->contents();
         }
@@ -539,14 +519,12 @@ private slots:
 
         // The editor opens on the widget's entries; Cancel after a change and OK without one
         // leave the form alone.
-        QVERIFY(edit(
-                widget,
-                [&](Driver &dialog) {
-                    QCOMPARE(dialog.dialog()->windowTitle(), QLatin1String(family.title));
-                    QCOMPARE(dialog.propertyNames(), family.properties);
-                    scripts[0](dialog);
-                },
-                false));
+        const auto opened = [&](Driver &dialog) {
+            QCOMPARE(dialog.dialog()->windowTitle(), QLatin1String(family.title));
+            QCOMPARE(dialog.propertyNames(), family.properties);
+            scripts[0](dialog);
+        };
+        QVERIFY(edit(widget, opened, false));
         QVERIFY(edit(widget, scripts[1]));
         QCOMPARE(history->count(), 0);
         QVERIFY(!form->isDirty());
