@@ -278,13 +278,11 @@ private slots:
         // Dialogs open on the current value; a cancelled one changes nothing.
         for (const bool accept : {true, false}) {
             QColor shown;
-            QVERIFY(answerDialog<QColorDialog>(
-                    browser, "color",
-                    [&](QColorDialog *dialog) {
-                        shown = dialog->currentColor();
-                        dialog->setCurrentColor(accept ? Qt::blue : Qt::green);
-                    },
-                    accept));
+            const auto pick = [&](QColorDialog *dialog) {
+                shown = dialog->currentColor();
+                dialog->setCurrentColor(accept ? Qt::blue : Qt::green);
+            };
+            QVERIFY(answerDialog<QColorDialog>(browser, "color", pick, accept));
             QCOMPARE(shown, QColor(accept ? Qt::red : Qt::blue));
             QCOMPARE(rowValue(browser, "color"), QStringLiteral("[0, 0, 255] (255)"));
         }

@@ -148,13 +148,12 @@ private slots:
         // Rich text opens Designer's rich-text dialog; cancelled, nothing changes.
         auto *richEditor = CcTest::openEditor<TextEditor>(&pane.browser, rich);
         QVERIFY(richEditor && richEditor->dialogButton()->isVisibleTo(richEditor));
+        const auto clickDots = [richEditor] { richEditor->dialogButton()->click(); };
         for (const bool accept : {true, false}) {
-            QVERIFY(CcTest::answerModal<RichTextEditorDialog>(
-                    [richEditor] { richEditor->dialogButton()->click(); },
-                    [accept](RichTextEditorDialog *d) {
-                        d->setText(QLatin1String(accept ? "<b>bold</b>" : "<i>never</i>"));
-                    },
-                    accept));
+            const auto type = [accept](RichTextEditorDialog *dialog) {
+                dialog->setText(QLatin1String(accept ? "<b>bold</b>" : "<i>never</i>"));
+            };
+            QVERIFY(CcTest::answerModal<RichTextEditorDialog>(clickDots, type, accept));
             QCOMPARE(stringOf(rich->value()).value(), QStringLiteral("<b>bold</b>"));
         }
     }

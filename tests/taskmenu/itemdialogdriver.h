@@ -197,13 +197,12 @@ inline bool edit(QWidget *widget, const std::function<void(ItemDialogDriver &)> 
     if (!menu)
         return false;
     QAction *entry = menu->preferredEditAction();
-    return answerModal<QDialog>([entry] { entry->trigger(); },
-                                [act](QDialog *dialog) {
-                                    ItemDialogDriver driver(dialog);
-                                    if (driver.isValid())
-                                        act(driver);
-                                },
-                                accept);
+    const auto work = [act](QDialog *dialog) {
+        ItemDialogDriver driver(dialog);
+        if (driver.isValid())
+            act(driver);
+    };
+    return answerModal<QDialog>([entry] { entry->trigger(); }, work, accept);
 }
 
 } // namespace CcTest
