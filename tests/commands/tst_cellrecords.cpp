@@ -97,9 +97,8 @@ private slots:
                       QVariant::fromValue(PropertySheetStringValue(QStringLiteral("Open"))));
         QTableWidgetItem plain;
         CellRecords::toItem(record, &plain, nullptr, false);
-        QCOMPARE(plain.text(), QStringLiteral("Open"));
-        QCOMPARE(plain.toolTip(), QStringLiteral("tip"));
-        QCOMPARE(plain.statusTip(), QStringLiteral("tip"));
+        QCOMPARE(QStringList({plain.text(), plain.toolTip(), plain.statusTip()}),
+                 QStringList({"Open", "tip", "tip"}));
         QCOMPARE(plain.flags(), item.flags());
         QCOMPARE(roles(CellRecords::fromItem(&plain, false)), roles(record));
         QTableWidgetItem edited;
