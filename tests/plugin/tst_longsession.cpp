@@ -69,16 +69,6 @@ QMap<QString, int> countsByClass(const QObjectList &objects)
     return counts;
 }
 
-// The objects by class, as "3 x ClassName, ...".
-QString described(const QObjectList &objects)
-{
-    const QMap<QString, int> counts = countsByClass(objects);
-    QStringList parts;
-    for (auto it = counts.cbegin(); it != counts.cend(); ++it)
-        parts << QStringLiteral("%1 x %2").arg(it.value()).arg(it.key());
-    return parts.join(QStringLiteral(", "));
-}
-
 using Driver = CcTest::ItemDialogDriver;
 
 } // namespace
@@ -146,7 +136,9 @@ private slots:
         for (QObject *object : collection->children() + core->extensionManager()->children())
             permanent.insert(object);
         const QObjectList left = oursAlive(permanent);
-        QVERIFY2(left.isEmpty(), qPrintable(described(left)));
+        QString byClass;
+        QDebug(&byClass) << countsByClass(left);
+        QVERIFY2(left.isEmpty(), qPrintable(byClass));
     }
 
 private:
