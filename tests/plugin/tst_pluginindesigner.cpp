@@ -227,14 +227,12 @@ private slots:
         const QString name = className(w);
         QCOMPARE(plugin->name(), name);
         QCOMPARE(plugin->group(),
-                 w.templateGroup ? QStringLiteral("Tarn Template Widgets")
-                                 : QStringLiteral("Tarn Widgets"));
+                 QLatin1String(w.templateGroup ? "Tarn Template Widgets" : "Tarn Widgets"));
         QCOMPARE(plugin->includeFile(),
                  QLatin1String("nui/CommonControls/") + QLatin1String(w.includeFile));
         QCOMPARE(plugin->isContainer(), w.container);
-        QCOMPARE(plugin->toolTip(),
-                 name == QLatin1String("VoCc::Pane") ? QStringLiteral("Tarn Collapsible Pane")
-                                                     : QString());
+        const bool pane = name == QLatin1String("VoCc::Pane");
+        QCOMPARE(plugin->toolTip(), pane ? QStringLiteral("Tarn Collapsible Pane") : QString());
         // The page group answers with a null text, the others with an empty one.
         QCOMPARE(plugin->toolTip().isNull(), name == QLatin1String("VoCc::DrawbackBoxGroup"));
         QCOMPARE(plugin->domXml(), expectedXml(w));

@@ -205,8 +205,7 @@ private slots:
 
         // Reloading resources repaints the icon and pixmap rows, not the others.
         QtVariantProperty *text = pane.add(DesignerPropertyManager::designerStringTypeId(), "text");
-        QtVariantProperty *pixmap =
-                pane.add(DesignerPropertyManager::designerPixmapTypeId(), "pixmap");
+        auto *pixmap = pane.add(DesignerPropertyManager::designerPixmapTypeId(), "pixmap");
         pixmap->setValue(m_pictures.red);
         QCOMPARE(pixmap->valueText(), QStringLiteral("red.png"));
         QList<QtProperty *> repainted;
