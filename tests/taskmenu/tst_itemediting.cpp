@@ -19,14 +19,12 @@
 #include "uixml.h"
 #include "warninglog.h"
 
-#include <nui/CommonControls/CcCheckableTextComboBox.hpp>
 #include <nui/CommonControls/CcComboBox.hpp>
 #include <nui/CommonControls/CcDrawbackBoxGroup.hpp>
 #include <nui/CommonControls/CcFormBuilder.hpp>
 #include <nui/CommonControls/CcMatrixButtons.hpp>
 #include <nui/CommonControls/CcMatrixPopButtons.hpp>
 #include <nui/CommonControls/template/CcOptionButtons.hpp>
-#include <nui/CommonControls/template/CcOptionComboBox.hpp>
 #include <nui/CommonControls/template/CcOptionRadios.hpp>
 
 #include <QDesignerContainerExtension>
@@ -52,11 +50,8 @@ QStringList comboTexts(const QComboBox *combo)
     return texts;
 }
 QStringList shownByComboBox(QWidget *w) { return comboTexts(qobject_cast<QComboBox *>(w)); }
-template<class Widget>
-QStringList shownByInnerCombo(QWidget *w)
-{
-    return comboTexts(qobject_cast<Widget *>(w)->comboBox());
-}
+// An option or checkable combo box: the one combo box it holds.
+QStringList shownByInnerCombo(QWidget *w) { return comboTexts(w->findChild<QComboBox *>()); }
 template<class Widget>
 QStringList shownByButtons(QWidget *w)
 {
@@ -229,9 +224,9 @@ const QStringList optionSaved = {"@icon", "tooltipAdded", "dataAdded", "tipB", "
 const Family families[] = {
     {"VoCc::ComboBox", "Edit Items", "Edit ComboBox", {"text", "icon", "action"}, "", shownByComboBox,
      entries(untranslated("action", "actB")), true, abc, addedBC, abc, {"@icon", "actionAdded", "actB"}, {}, 1},
-    {"VoCc::CheckableTextComboBox", "Edit Items", "Edit Checkable ComboBox", {"text", "toolTip"}, "", shownByInnerCombo<VoCc::CheckableTextComboBox>,
+    {"VoCc::CheckableTextComboBox", "Edit Items", "Edit Checkable ComboBox", {"text", "toolTip"}, "", shownByInnerCombo,
      entries(propertyXml("toolTip", "tipB")), true, abc, addedBC, abc, {"toolTipAdded", "tipB"}, {}, 1},
-    {"VoCc::OptionComboBox", "Edit Items", "Edit Option ComboBox", {"text", "icon", "data"}, "", shownByInnerCombo<VoCc::OptionComboBox>,
+    {"VoCc::OptionComboBox", "Edit Items", "Edit Option ComboBox", {"text", "icon", "data"}, "", shownByInnerCombo,
      entries(untranslated("data", "dB")), true, abc, addedBC, abc, {"@icon", "dataAdded", "dB"}, {}, 1},
     {"VoCc::OptionButtons", "Edit Buttons", "Edit OptionButtons", {"text", "icon", "tooltip", "data"}, "Change OptionButtons Contents", shownByButtons<VoCc::OptionButtons>,
      entries(optionExtras), true, abc, addedBC, abc, optionSaved, {}, 1},
