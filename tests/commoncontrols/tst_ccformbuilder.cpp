@@ -14,7 +14,6 @@
 #include <QRegularExpression>
 #include <QScopedPointer>
 #include <QTest>
-#include <QToolButton>
 #include <QXmlStreamReader>
 #include <QXmlStreamWriter>
 

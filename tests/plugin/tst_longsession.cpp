@@ -20,7 +20,6 @@
 #include <QMutex>
 #include <QPluginLoader>
 #include <QSpinBox>
-#include <QTableWidget>
 #include <QUndoStack>
 #include <QtCore/private/qhooks_p.h>
 #include <QtTest>
