@@ -332,8 +332,7 @@ private slots:
 
         // Renaming in place keeps the value's translation data and reports the display role.
         QListWidgetItem *item = list->item(0);
-        const PropertySheetStringValue before(QStringLiteral("B"), false, QStringLiteral("dis"),
-                                              QStringLiteral("note"));
+        const PropertySheetStringValue before("B", false, "dis", "note");
         item->setData(Qt::DisplayPropertyRole, QVariant::fromValue(before));
         QSignalSpy changed(editor, &ItemListEditor::itemChanged);
         list->editItem(item);

@@ -195,9 +195,8 @@ const Script matrixScripts[] = {matrixOpened, matrixChangedBack, matrixEdit};
 // widget shows of them, its editor, and an edit's results.
 struct Family
 {
-    const char *className;
-    const char *entry;
-    const char *title;
+    // The class, its context-menu entry and the title of its editor.
+    const char *className, *entry, *title;
     QStringList properties;
     const char *command;
     QStringList (*shown)(QWidget *);
