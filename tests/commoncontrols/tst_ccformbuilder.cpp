@@ -40,14 +40,6 @@ QWidget *loadForm(const QString &uiText)
     return builder.load(&buffer);
 }
 
-// A form document holding the given widget elements.
-QString formText(const QString &body)
-{
-    return QStringLiteral(
-                   "<ui version=\"4.0\"><widget class=\"QWidget\" name=\"Form\">%1</widget></ui>")
-            .arg(body);
-}
-
 QString elementText(const DomWidget *element)
 {
     QString text;
@@ -274,7 +266,7 @@ private slots:
         body += widgetXml("VoCc::CheckableTextComboBox", "check",
                           itemXml(propertyXml("toolTip", "only a tip")));
         const WarningLog log;
-        QScopedPointer<QWidget> form(loadForm(formText(body)));
+        QScopedPointer<QWidget> form(loadForm(formXml(body)));
         QVERIFY(form);
         // What is left out is named once per widget (the unknown item property, the Angle's
         // items); at most one more complaint, about the property of the wrong type; no storm.
@@ -371,7 +363,7 @@ private slots:
                                                + propertyXml("column", "3", "number")
                                                + itemXml(propertyXml("text", "A")));
         const WarningLog log;
-        QScopedPointer<QWidget> form(loadForm(formText(body)));
+        QScopedPointer<QWidget> form(loadForm(formXml(body)));
         QVERIFY(form);
         QCOMPARE(log.warnings.size(), 1);
         for (const QString &named :
@@ -403,7 +395,7 @@ private slots:
         const QString body = widgetXml("VoCc::OptionButtons", "options", item)
                 + widgetXml("VoCc::ComboBox", "combo", item + item);
         const WarningLog log;
-        QScopedPointer<QWidget> form(loadForm(formText(body)));
+        QScopedPointer<QWidget> form(loadForm(formXml(body)));
         auto *options = form->findChild<OptionButtons *>();
         QCOMPARE(options->textList(), QStringList {longText});
         QCOMPARE(options->button(0)->text().size(), 1000);

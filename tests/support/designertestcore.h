@@ -1,5 +1,7 @@
 #pragma once
 
+#include "uixml.h"
+
 #include <QDesignerFormWindowInterface>
 #include <QString>
 #include <QStringList>
@@ -33,8 +35,5 @@ T *formChild(QDesignerFormWindowInterface *form, const char *name)
 {
     return form->mainContainer()->findChild<T *>(QLatin1String(name));
 }
-
-// A minimal .ui document whose top level is a QWidget named "Form" holding bodyXml.
-QString formXml(const QString &bodyXml, const QString &customWidgetsXml = QString());
 
 } // namespace CcTest

@@ -6,6 +6,26 @@
 
 namespace CcTest {
 
+// A minimal .ui document whose top level is a QWidget named "Form" holding bodyXml.
+inline QString formXml(const QString &bodyXml, const QString &customWidgetsXml = QString())
+{
+    QString xml = QStringLiteral(
+            "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+            "<ui version=\"4.0\">\n"
+            " <class>Form</class>\n"
+            " <widget class=\"QWidget\" name=\"Form\">\n"
+            "  <property name=\"geometry\">\n"
+            "   <rect><x>0</x><y>0</y><width>640</width><height>480</height></rect>\n"
+            "  </property>\n");
+    xml += bodyXml;
+    xml += QStringLiteral(" </widget>\n");
+    if (!customWidgetsXml.isEmpty())
+        xml += QStringLiteral(" <customwidgets>\n") + customWidgetsXml
+                + QStringLiteral(" </customwidgets>\n");
+    xml += QStringLiteral(" <resources/>\n <connections/>\n</ui>\n");
+    return xml;
+}
+
 inline QString widgetXml(const char *className, const char *name, const QString &inner = QString())
 {
     return QStringLiteral("<widget class=\"%1\" name=\"%2\">%3</widget>\n")
