@@ -37,14 +37,6 @@ public:
     mutable QSet<QString> seen;
 };
 
-QListWidgetItem *makeItem(const QString &text)
-{
-    auto *item = new QListWidgetItem(text);
-    item->setData(Qt::DisplayPropertyRole, CcTest::stringValue(text));
-    item->setFlags(item->flags() | Qt::ItemIsEditable);
-    return item;
-}
-
 int freshItemFlags() { return int(QListWidgetItem().flags()); }
 
 // The list as its user sees it: the rows, the current one in brackets, and the buttons that
@@ -401,8 +393,12 @@ private:
     {
         m_editor.reset(new ItemListEditor(m_form, nullptr));
         m_editor->setNewItemText(QStringLiteral("New Item"));
-        for (const QString &text : texts)
-            m_editor->listWidget()->addItem(makeItem(text));
+        for (const QString &text : texts) {
+            auto *item = new QListWidgetItem(text);
+            item->setData(Qt::DisplayPropertyRole, CcTest::stringValue(text));
+            item->setFlags(item->flags() | Qt::ItemIsEditable);
+            m_editor->listWidget()->addItem(item);
+        }
         m_editor->setupEditor(m_object, CcTest::allItemProperties());
         m_editor->setPropertyBrowserVisible(true);
         m_editor->show();
