@@ -324,11 +324,9 @@ private slots:
                 << sideBySide("QWidget", 10001)
                 << QStringLiteral("more than 10000 widgets side by side");
         QTest::newRow("10,001 pages") << sideBySide("VoCc::DrawbackBoxGroup", 10001) << QString();
-        QTest::newRow("NUL byte")
-                << QByteArray(
-                           "<ui version=\"4.0\">\n<widget class=\"QWidget\" name=\"F@rm\"/></ui>")
-                           .replace('@', '\0')
-                << QStringLiteral("line 2, column 32: a NUL byte");
+        QByteArray nul("<ui version=\"4.0\">\n<widget class=\"QWidget\" name=\"F@rm\"/></ui>");
+        QTest::newRow("NUL byte") << nul.replace('@', '\0')
+                                  << QStringLiteral("line 2, column 32: a NUL byte");
     }
 
     void refusesWhatQtCannotManage()

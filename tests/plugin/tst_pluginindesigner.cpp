@@ -44,62 +44,61 @@ enum DefaultXml { Lf, NoLf, Special };
 
 // What the widget box must show for each plug-in, in the collection's order, written down
 // independently of the plug-in's own table. A special default text is in data/<name>.xml.
+// The class name after "VoCc::", the include file after "nui/CommonControls/", the object name
+// of the standard default text; whether the widget is in the template group and a container.
 struct Widget
 {
-    const char *name; // after "VoCc::"
-    bool templateGroup;
-    const char *includeFile; // after "nui/CommonControls/"
-    bool container;
+    const char *name, *includeFile, *objectName;
+    bool templateGroup, container;
     DefaultXml xml;
-    const char *objectName; // of the standard default text
 };
 
 // clang-format off
 constexpr Widget widgets[] = {
-    {"Angle", true, "Template/CcAngle.hpp", false, Lf, "Angle"},
-    {"CmdButton", true, "Template/CcCmdButton.hpp", false, Lf, "CmdButton"},
-    {"Color", true, "Template/CcColor.hpp", false, Lf, "Color"},
-    {"ColorTransfer", true, "Template/ColorTransfer.hpp", false, Lf, "ColorTransfer"},
-    {"Distance", true, "Template/CcDistance.hpp", false, Lf, "Distance"},
-    {"Entity", true, "Template/CcEntity.hpp", false, Lf, "Entity"},
-    {"EntityList", true, "Template/CcEntityList.hpp", false, Lf, "EntityList"},
-    {"PinEntity", true, "Template/CcPinEntity.hpp", false, Lf, "PinEntity"},
-    {"PinEntityList", true, "Template/CcPinEntityList.hpp", false, Lf, "PinEntityList"},
-    {"FormProxy", false, "CcFormProxy.hpp", false, Lf, "formProxy"},
-    {"Number", true, "Template/CcNumber.hpp", false, Lf, "Number"},
-    {"OptionButtons", true, "template/CcOptionButtons.hpp", false, Lf, "OptionButtons"},
-    {"OptionCheckBox", true, "template/CcOptionCheckBox.hpp", false, Special, nullptr},
-    {"OptionComboBox", true, "template/CcOptionComboBox.hpp", false, Lf, "OptionComboBox"},
-    {"OptionRadios", true, "template/CcOptionRadios.hpp", false, Lf, "OptionRadios"},
-    {"Point", true, "Template/CcPoint.hpp", false, Lf, "Point"},
-    {"Slider", true, "Template/CcSlider.hpp", false, Lf, "Slider"},
-    {"String", true, "Template/CcString.hpp", false, Lf, "String"},
-    {"Window", true, "Template/CcWindow.hpp", false, Lf, "Window"},
-    {"CheckableTextComboBox", false, "CcLineEditEx.hpp", false, Lf, "checkableTextComboBox"},
-    {"ColorButton", false, "CcColorButton.hpp", false, Lf, "colorButton"},
-    {"ColorPanel", false, "CcColorPanel.hpp", false, Lf, "colorPanel"},
-    {"ColorPicker", false, "CcColorPicker.hpp", false, Lf, "colorPicker"},
-    {"ComboBox", false, "CcComboBox.hpp", false, Lf, "comboBox"},
-    {"DrawbackBoxGroup", false, "CcDrawbackBoxGroup.hpp", true, Special, nullptr},
-    {"Form", false, "CcForm.hpp", true, Special, nullptr},
-    {"Line", false, "CcLine.hpp", false, Special, nullptr},
-    {"LineEditBtn", false, "CcLineEditEx.hpp", false, NoLf, "lineEditBtn"},
-    {"LineEditEx", false, "CcLineEditEx.hpp", false, NoLf, "lineEditEx"},
-    {"LineType", false, "CcLineType.hpp", false, Lf, "lineType"},
-    {"LineWidth", false, "CcLineWidth.hpp", false, Lf, "lineWidth"},
-    {"ListView", false, "CcListView.hpp", false, NoLf, "listView"},
-    {"ListWidget", false, "CcListWidget.hpp", false, NoLf, "listWidget"},
-    {"MatrixCheckBoxes", false, "CcMatrixButtons.hpp", false, Lf, "matrixCheckBoxes"},
-    {"MatrixPopButtons", false, "CcMatrixPopButtons.hpp", false, Special, nullptr},
-    {"MatrixPushButtons", false, "CcMatrixButtons.hpp", false, Lf, "matrixPushButtons"},
-    {"MatrixRadioButtons", false, "CcMatrixButtons.hpp", false, Lf, "matrixRadioButtons"},
-    {"Pane", false, "CcPane.hpp", true, Special, nullptr},
-    {"RealNumberEdit", false, "CcRealNumberEdit.hpp", false, Lf, "realNumberEdit"},
-    {"RealNumberSlider", false, "CcRealNumber.hpp", false, NoLf, "realNumberSlider"},
-    {"SelectList", false, "CcSelectList.hpp", false, NoLf, "selectList"},
-    {"TableWidget", false, "CcTableWidget.hpp", false, NoLf, "tableWidget"},
-    {"TextEdit", false, "CcTextEdit.hpp", false, Lf, "TextEdit"},
-    {"TreeView", false, "CcTreeView.hpp", false, NoLf, "treeView"},
+    {"Angle", "Template/CcAngle.hpp", "Angle", true, false, Lf},
+    {"CmdButton", "Template/CcCmdButton.hpp", "CmdButton", true, false, Lf},
+    {"Color", "Template/CcColor.hpp", "Color", true, false, Lf},
+    {"ColorTransfer", "Template/ColorTransfer.hpp", "ColorTransfer", true, false, Lf},
+    {"Distance", "Template/CcDistance.hpp", "Distance", true, false, Lf},
+    {"Entity", "Template/CcEntity.hpp", "Entity", true, false, Lf},
+    {"EntityList", "Template/CcEntityList.hpp", "EntityList", true, false, Lf},
+    {"PinEntity", "Template/CcPinEntity.hpp", "PinEntity", true, false, Lf},
+    {"PinEntityList", "Template/CcPinEntityList.hpp", "PinEntityList", true, false, Lf},
+    {"FormProxy", "CcFormProxy.hpp", "formProxy", false, false, Lf},
+    {"Number", "Template/CcNumber.hpp", "Number", true, false, Lf},
+    {"OptionButtons", "template/CcOptionButtons.hpp", "OptionButtons", true, false, Lf},
+    {"OptionCheckBox", "template/CcOptionCheckBox.hpp", nullptr, true, false, Special},
+    {"OptionComboBox", "template/CcOptionComboBox.hpp", "OptionComboBox", true, false, Lf},
+    {"OptionRadios", "template/CcOptionRadios.hpp", "OptionRadios", true, false, Lf},
+    {"Point", "Template/CcPoint.hpp", "Point", true, false, Lf},
+    {"Slider", "Template/CcSlider.hpp", "Slider", true, false, Lf},
+    {"String", "Template/CcString.hpp", "String", true, false, Lf},
+    {"Window", "Template/CcWindow.hpp", "Window", true, false, Lf},
+    {"CheckableTextComboBox", "CcLineEditEx.hpp", "checkableTextComboBox", false, false, Lf},
+    {"ColorButton", "CcColorButton.hpp", "colorButton", false, false, Lf},
+    {"ColorPanel", "CcColorPanel.hpp", "colorPanel", false, false, Lf},
+    {"ColorPicker", "CcColorPicker.hpp", "colorPicker", false, false, Lf},
+    {"ComboBox", "CcComboBox.hpp", "comboBox", false, false, Lf},
+    {"DrawbackBoxGroup", "CcDrawbackBoxGroup.hpp", nullptr, false, true, Special},
+    {"Form", "CcForm.hpp", nullptr, false, true, Special},
+    {"Line", "CcLine.hpp", nullptr, false, false, Special},
+    {"LineEditBtn", "CcLineEditEx.hpp", "lineEditBtn", false, false, NoLf},
+    {"LineEditEx", "CcLineEditEx.hpp", "lineEditEx", false, false, NoLf},
+    {"LineType", "CcLineType.hpp", "lineType", false, false, Lf},
+    {"LineWidth", "CcLineWidth.hpp", "lineWidth", false, false, Lf},
+    {"ListView", "CcListView.hpp", "listView", false, false, NoLf},
+    {"ListWidget", "CcListWidget.hpp", "listWidget", false, false, NoLf},
+    {"MatrixCheckBoxes", "CcMatrixButtons.hpp", "matrixCheckBoxes", false, false, Lf},
+    {"MatrixPopButtons", "CcMatrixPopButtons.hpp", nullptr, false, false, Special},
+    {"MatrixPushButtons", "CcMatrixButtons.hpp", "matrixPushButtons", false, false, Lf},
+    {"MatrixRadioButtons", "CcMatrixButtons.hpp", "matrixRadioButtons", false, false, Lf},
+    {"Pane", "CcPane.hpp", nullptr, false, true, Special},
+    {"RealNumberEdit", "CcRealNumberEdit.hpp", "realNumberEdit", false, false, Lf},
+    {"RealNumberSlider", "CcRealNumber.hpp", "realNumberSlider", false, false, NoLf},
+    {"SelectList", "CcSelectList.hpp", "selectList", false, false, NoLf},
+    {"TableWidget", "CcTableWidget.hpp", "tableWidget", false, false, NoLf},
+    {"TextEdit", "CcTextEdit.hpp", "TextEdit", false, false, Lf},
+    {"TreeView", "CcTreeView.hpp", "treeView", false, false, NoLf},
 };
 // clang-format on
 constexpr int widgetCount = int(std::size(widgets));
