@@ -151,8 +151,7 @@ private slots:
         FormBuilder builder;
         file.seek(0);
         QScopedPointer<QWidget> form(builder.load(&file));
-        QVERIFY(form);
-        QVERIFY(builder.unknownClassNames().isEmpty());
+        QVERIFY(form && builder.unknownClassNames().isEmpty());
         checkHolds(form.data(), elements);
         // Every class of the library is on it.
         QStringList classes;
@@ -372,13 +371,11 @@ private slots:
             return qobject_cast<MatrixPopButtons *>(grid)->button(index);
         };
         QCOMPARE(grid->property("row").toInt(), 99);
-        QVERIFY(button(99 * 3 - 1));
-        QVERIFY(!button(99 * 3));
+        QVERIFY(button(99 * 3 - 1) && !button(99 * 3));
         QCOMPARE(button(0)->text(), QStringLiteral("A"));
         // Still editable: a size the editors offer is taken as it is.
         QVERIFY(grid->setProperty("row", 4));
-        QVERIFY(button(4 * 3 - 1));
-        QVERIFY(!button(4 * 3));
+        QVERIFY(button(4 * 3 - 1) && !button(4 * 3));
     }
 
     void showsLongTextsCut()
