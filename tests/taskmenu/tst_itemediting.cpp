@@ -296,11 +296,10 @@ struct Session
 
 QString describe(const Session &session)
 {
-    QString text = QStringLiteral("seed %1, %2 (steps E edit, U undo, R redo, L save and load; "
-                                  "actions s select, n new, d delete, u up, D down, r rename, "
-                                  "p property, i icon, R rows, C columns, c cell):")
-                           .arg(session.seed)
-                           .arg(QLatin1String(families[session.family].className));
+    QString text = QString::asprintf("seed %u, %s (steps E edit, U undo, R redo, L save and load; "
+                                     "actions s select, n new, d delete, u up, D down, r rename, "
+                                     "p property, i icon, R rows, C columns, c cell):",
+                                     session.seed, families[session.family].className);
     for (const Step &step : session.steps) {
         text += QString::asprintf("\n  %c x%d", step.kind, step.count);
         for (const Action &action : step.actions)
