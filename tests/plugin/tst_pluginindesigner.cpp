@@ -5,9 +5,9 @@
 // that every widget gets.
 
 #include "designertestcore.h"
+#include "pagegroup.h"
 #include "uixml.h"
 
-#include <nui/CommonControls/CcDrawbackBoxGroup.hpp>
 #include <nui/CommonControls/CcMatrixButtons.hpp>
 
 #include <QAbstractButton>
@@ -36,6 +36,7 @@
 #include <QtUiPlugin/QDesignerCustomWidgetInterface>
 
 using namespace qdesigner_internal;
+using CcTest::pagesOf;
 using CcTest::widgetXml;
 
 namespace {
@@ -146,14 +147,6 @@ QString groupForm(const QString &pages)
 {
     return CcTest::formXml(widgetXml("VoCc::DrawbackBoxGroup", "group", pages),
                            CcTest::pageGroupDeclaration());
-}
-
-QWidgetList pagesOf(const VoCc::DrawbackBoxGroup *group)
-{
-    QWidgetList pages;
-    for (int i = 0; i < group->count(); ++i)
-        pages << group->widget(i);
-    return pages;
 }
 
 // Two of our widgets next to a plain Qt button, a layout and an action.

@@ -15,12 +15,12 @@
 #include "designertestcore.h"
 #include "itemdialogdriver.h"
 #include "modalanswer.h"
+#include "pagegroup.h"
 #include "testpictures.h"
 #include "uixml.h"
 #include "warninglog.h"
 
 #include <nui/CommonControls/CcComboBox.hpp>
-#include <nui/CommonControls/CcDrawbackBoxGroup.hpp>
 #include <nui/CommonControls/CcFormBuilder.hpp>
 #include <nui/CommonControls/CcMatrixButtons.hpp>
 #include <nui/CommonControls/CcMatrixPopButtons.hpp>
@@ -553,13 +553,7 @@ private slots:
         const auto closeForm = qScopeGuard([form] { closeFormWindow(form); });
         auto *group = formChild<VoCc::DrawbackBoxGroup>(form, "edited");
         QVERIFY(group);
-        auto pages = [group] {
-            QWidgetList list;
-            for (int i = 0; i < group->count(); ++i)
-                list.append(group->widget(i));
-            return list;
-        };
-        const QWidgetList original = pages();
+        const QWidgetList original = pagesOf(group);
         const int boxes = group->findChildren<VoCc::DrawbackBox *>().size();
 
         // Up then down, and an insert deleted again, come back to the pages as they were:
@@ -582,7 +576,7 @@ private slots:
             dialog.addRow(QStringLiteral("New1"));
             dialog.addRow(QStringLiteral("New2"));
         }));
-        const QWidgetList edited = pages();
+        const QWidgetList edited = pagesOf(group);
         QCOMPARE(edited.size(), 5);
         QCOMPARE(edited.mid(0, 2), QWidgetList({original.at(0), original.at(2)}));
         QCOMPARE(edited.at(4), original.at(1));
@@ -592,10 +586,10 @@ private slots:
         QVERIFY(edited.at(2)->objectName() != edited.at(3)->objectName());
         QCOMPARE(group->currentIndex(), 4);
         form->commandHistory()->undo();
-        QCOMPARE(pages(), original);
+        QCOMPARE(pagesOf(group), original);
         QCOMPARE(group->currentIndex(), 2);
         form->commandHistory()->redo();
-        QCOMPARE(pages(), edited);
+        QCOMPARE(pagesOf(group), edited);
     }
 
     // Each family's context menu: one entry, from its own factory, serving task menus of
