@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QDesignerComponents>
 #include <QDesignerFormEditorInterface>
-#include <QDesignerFormWindowInterface>
 #include <QDesignerFormWindowManagerInterface>
 #include <QDesignerIntegration>
 #include <QDir>
@@ -11,7 +10,6 @@
 #include <QFileInfo>
 #include <QLibraryInfo>
 #include <QTemporaryDir>
-#include <QWidget>
 
 namespace CcTest {
 
