@@ -40,16 +40,21 @@ quintptr previousRemove = 0;
 
 void objectAdded(QObject *object)
 {
-    QMutexLocker locker(&trackedLock);
-    tracked.insert(object);
+    {
+        // Not held while the earlier hook runs: it may make objects of its own.
+        QMutexLocker locker(&trackedLock);
+        tracked.insert(object);
+    }
     if (previousAdd)
         reinterpret_cast<QHooks::AddQObjectCallback>(previousAdd)(object);
 }
 
 void objectRemoved(QObject *object)
 {
-    QMutexLocker locker(&trackedLock);
-    tracked.remove(object);
+    {
+        QMutexLocker locker(&trackedLock);
+        tracked.remove(object);
+    }
     if (previousRemove)
         reinterpret_cast<QHooks::RemoveQObjectCallback>(previousRemove)(object);
 }
