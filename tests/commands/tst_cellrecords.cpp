@@ -25,10 +25,10 @@ QList<int> roles(const ItemRecord &record)
     return keys;
 }
 
-bool operator==(const CellStrings &a, const CellStrings &b)
+// Text, icon path, tool tip and action.
+QStringList listed(const CellStrings &strings)
 {
-    return a.text == b.text && a.iconPath == b.iconPath && a.toolTip == b.toolTip
-            && a.action == b.action;
+    return {strings.text, strings.iconPath, strings.toolTip, strings.action};
 }
 
 } // namespace
@@ -39,115 +39,109 @@ class TestCellRecords : public QObject
 {
     Q_OBJECT
 private slots:
-    void stringsToRecordAndBack_data();
-    void stringsToRecordAndBack();
-    void itemToRecordAndBack();
-    void contentsAsListsAndTable();
-};
-
-void TestCellRecords::stringsToRecordAndBack_data()
-{
-    QTest::addColumn<CellStrings>("strings");
-    QTest::addColumn<bool>("editor");
-    QTest::addColumn<QList<int>>("roles");
-    const CellStrings all {"Open", icon, "Opens a file", "fileOpen"};
-    QTest::newRow("nothing") << CellStrings() << false << QList<int>();
-    QTest::newRow("nothing, editor") << CellStrings() << true << QList<int>({flagsRole});
-    QTest::newRow("text") << CellStrings {"Open", {}, {}, {}} << false << QList<int>({27});
-    QTest::newRow("icon") << CellStrings {{}, icon, {}, {}} << false << QList<int>({28});
-    QTest::newRow("action only, editor")
-            << CellStrings {{}, {}, {}, "fileOpen"} << true << QList<int>({action, flagsRole});
-    QTest::newRow("all four") << all << false << QList<int>({27, 28, 29, action});
-    QTest::newRow("all four, editor") << all << true << QList<int>({27, 28, 29, action, flagsRole});
-}
-
-void TestCellRecords::stringsToRecordAndBack()
-{
-    QFETCH(CellStrings, strings);
-    QFETCH(bool, editor);
-    QFETCH(QList<int>, roles);
-    const ItemRecord record = CellRecords::fromStrings(strings, editor);
-    QCOMPARE(::roles(record), roles);
-    if (record.contains(flagsRole))
-        QCOMPARE(record.value(flagsRole).toInt(), int(QTableWidgetItem().flags()));
-    // Designer values: the action a plain, translatable string value like the text.
-    if (record.contains(action))
-        QCOMPARE(qvariant_cast<PropertySheetStringValue>(record.value(action)),
-                 PropertySheetStringValue(strings.action));
-    QVERIFY(CellRecords::toStrings(record) == strings);
-}
-
-void TestCellRecords::itemToRecordAndBack()
-{
-    // Every designer and item role counts, the plain twins and the first user role do not; flags
-    // only where they differ from a new item's, unless for the editor.
-    QTableWidgetItem item;
-    const QVariant tip = QVariant::fromValue(PropertySheetStringValue(QStringLiteral("tip")));
-    item.setData(Qt::ToolTipPropertyRole, tip);
-    item.setData(Qt::StatusTipPropertyRole, tip);
-    item.setData(Qt::CheckStateRole, Qt::Checked);
-    item.setData(ItemRoles::Data, QStringLiteral("d"));
-    item.setData(Qt::ToolTipRole, QStringLiteral("plain"));
-    item.setData(Qt::UserRole, QStringLiteral("32"));
-    QCOMPARE(roles(CellRecords::fromItem(&item, false)), QList<int>({10, 29, 30, data}));
-    item.setFlags(item.flags() & ~Qt::ItemIsEnabled);
-    ItemRecord record = CellRecords::fromItem(&item, false);
-    QCOMPARE(roles(record), QList<int>({10, 29, 30, data, flagsRole}));
-    // Only text, icon, tool tip and action become strings.
-    QVERIFY(CellRecords::toStrings(record) == (CellStrings {{}, {}, "tip", {}}));
-
-    // Back into an item: the plain twins follow, flags are applied (or, for the editor, kept
-    // as a role and made editable).
-    record.insert(Qt::DisplayPropertyRole,
-                  QVariant::fromValue(PropertySheetStringValue(QStringLiteral("Open"))));
-    QTableWidgetItem plain;
-    CellRecords::toItem(record, &plain, nullptr, false);
-    QCOMPARE(plain.text(), QStringLiteral("Open"));
-    QCOMPARE(plain.toolTip(), QStringLiteral("tip"));
-    QCOMPARE(plain.statusTip(), QStringLiteral("tip"));
-    QCOMPARE(plain.flags(), item.flags());
-    QCOMPARE(roles(CellRecords::fromItem(&plain, false)), roles(record));
-    QTableWidgetItem edited;
-    CellRecords::toItem(record, &edited, nullptr, true);
-    QVERIFY(edited.flags() & Qt::ItemIsEnabled);
-    QVERIFY(edited.flags() & Qt::ItemIsEditable);
-    QCOMPARE(edited.data(flagsRole), record.value(flagsRole));
-}
-
-void TestCellRecords::contentsAsListsAndTable()
-{
-    // A 2 x 3 grid: cell (r, c) is entry 3 r + c of the lists, empty cells give empty entries.
-    MatrixContents contents;
-    contents.rowCount = 2;
-    contents.columnCount = 3;
-    for (int r = 0; r < 2; ++r) {
-        for (int c = 0; c < 3; ++c)
-            contents.cells.insert({r, c}, CellRecords::fromStrings({}, true));
+    void stringsToRecordAndBack_data()
+    {
+        QTest::addColumn<CellStrings>("strings");
+        QTest::addColumn<bool>("editor");
+        QTest::addColumn<QList<int>>("roles");
+        const CellStrings all {"Open", icon, "Opens a file", "fileOpen"};
+        QTest::newRow("nothing") << CellStrings() << false << QList<int>();
+        QTest::newRow("nothing, editor") << CellStrings() << true << QList<int>({flagsRole});
+        QTest::newRow("text") << CellStrings {"Open", {}, {}, {}} << false << QList<int>({27});
+        QTest::newRow("icon") << CellStrings {{}, icon, {}, {}} << false << QList<int>({28});
+        QTest::newRow("action only, editor")
+                << CellStrings {{}, {}, {}, "fileOpen"} << true << QList<int>({action, flagsRole});
+        QTest::newRow("all four") << all << false << QList<int>({27, 28, 29, action});
+        QTest::newRow("all four, editor")
+                << all << true << QList<int>({27, 28, 29, action, flagsRole});
     }
-    contents.cells[{1, 0}] = CellRecords::fromStrings({"d", icon, "tip", "act"}, true);
-    contents.cells[{0, 2}] = CellRecords::fromStrings({"c", {}, {}, {}}, true);
-    QStringList texts, icons, tips, actions;
-    contents.toLists(&texts, &icons, &tips, &actions);
-    QCOMPARE(texts, QStringList({"", "", "c", "d", "", ""}));
-    QCOMPARE(icons, QStringList({"", "", "", icon, "", ""}));
-    QCOMPARE(tips, QStringList({"", "", "", "tip", "", ""}));
-    QCOMPARE(actions, QStringList({"", "", "", "act", "", ""}));
 
-    // Through a table and back, the same cells; a cell without an item reads as a new one's.
-    QTableWidget table;
-    contents.writeToTable(&table, nullptr);
-    QCOMPARE(table.rowCount(), 2);
-    QCOMPARE(table.columnCount(), 3);
-    QCOMPARE(table.item(1, 0)->text(), QStringLiteral("d"));
-    delete table.takeItem(0, 0);
-    MatrixContents back;
-    back.fillFromTable(&table);
-    QVERIFY(sameCells(back, contents));
-    back.cells[{1, 1}] = CellRecords::fromStrings({"e", {}, {}, {}}, true);
-    QVERIFY(!sameCells(back, contents));
-    back.clear();
-    QVERIFY(back.cells.isEmpty() && back.rowCount == 0 && back.columnCount == 0);
-}
+    void stringsToRecordAndBack()
+    {
+        QFETCH(CellStrings, strings);
+        QFETCH(bool, editor);
+        QFETCH(QList<int>, roles);
+        const ItemRecord record = CellRecords::fromStrings(strings, editor);
+        QCOMPARE(::roles(record), roles);
+        if (record.contains(flagsRole))
+            QCOMPARE(record.value(flagsRole).toInt(), int(QTableWidgetItem().flags()));
+        // Designer values: the action a plain, translatable string value like the text.
+        if (record.contains(action))
+            QCOMPARE(qvariant_cast<PropertySheetStringValue>(record.value(action)),
+                     PropertySheetStringValue(strings.action));
+        QCOMPARE(listed(CellRecords::toStrings(record)), listed(strings));
+    }
+
+    void itemToRecordAndBack()
+    {
+        // Every designer and item role counts, the plain twins and the first user role do not;
+        // flags only where they differ from a new item's, unless for the editor.
+        QTableWidgetItem item;
+        const QVariant tip = QVariant::fromValue(PropertySheetStringValue(QStringLiteral("tip")));
+        item.setData(Qt::ToolTipPropertyRole, tip);
+        item.setData(Qt::StatusTipPropertyRole, tip);
+        item.setData(Qt::CheckStateRole, Qt::Checked);
+        item.setData(ItemRoles::Data, QStringLiteral("d"));
+        item.setData(Qt::ToolTipRole, QStringLiteral("plain"));
+        item.setData(Qt::UserRole, QStringLiteral("32"));
+        QCOMPARE(roles(CellRecords::fromItem(&item, false)), QList<int>({10, 29, 30, data}));
+        item.setFlags(item.flags() & ~Qt::ItemIsEnabled);
+        ItemRecord record = CellRecords::fromItem(&item, false);
+        QCOMPARE(roles(record), QList<int>({10, 29, 30, data, flagsRole}));
+        // Only text, icon, tool tip and action become strings.
+        QCOMPARE(listed(CellRecords::toStrings(record)), QStringList({"", "", "tip", ""}));
+
+        // Back into an item: the plain twins follow, flags are applied (or, for the editor, kept
+        // as a role and made editable).
+        record.insert(Qt::DisplayPropertyRole,
+                      QVariant::fromValue(PropertySheetStringValue(QStringLiteral("Open"))));
+        QTableWidgetItem plain;
+        CellRecords::toItem(record, &plain, nullptr, false);
+        QCOMPARE(QStringList({plain.text(), plain.toolTip(), plain.statusTip()}),
+                 QStringList({"Open", "tip", "tip"}));
+        QCOMPARE(plain.flags(), item.flags());
+        QCOMPARE(roles(CellRecords::fromItem(&plain, false)), roles(record));
+        QTableWidgetItem edited;
+        CellRecords::toItem(record, &edited, nullptr, true);
+        QVERIFY((edited.flags() & Qt::ItemIsEnabled) && (edited.flags() & Qt::ItemIsEditable));
+        QCOMPARE(edited.data(flagsRole), record.value(flagsRole));
+    }
+
+    void contentsAsListsAndTable()
+    {
+        // A 2 x 3 grid: cell (r, c) is entry 3 r + c of the lists, empty cells give empty entries.
+        MatrixContents contents;
+        contents.rowCount = 2;
+        contents.columnCount = 3;
+        for (int r = 0; r < 2; ++r) {
+            for (int c = 0; c < 3; ++c)
+                contents.cells.insert({r, c}, CellRecords::fromStrings({}, true));
+        }
+        contents.cells[{1, 0}] = CellRecords::fromStrings({"d", icon, "tip", "act"}, true);
+        contents.cells[{0, 2}] = CellRecords::fromStrings({"c", {}, {}, {}}, true);
+        QStringList texts, icons, tips, actions;
+        contents.toLists(&texts, &icons, &tips, &actions);
+        QCOMPARE(texts, QStringList({"", "", "c", "d", "", ""}));
+        QCOMPARE(icons, QStringList({"", "", "", icon, "", ""}));
+        QCOMPARE(tips, QStringList({"", "", "", "tip", "", ""}));
+        QCOMPARE(actions, QStringList({"", "", "", "act", "", ""}));
+
+        // Through a table and back, the same cells; a cell without an item reads as a new one's.
+        QTableWidget table;
+        contents.writeToTable(&table, nullptr);
+        QCOMPARE(table.rowCount(), 2);
+        QCOMPARE(table.columnCount(), 3);
+        QCOMPARE(table.item(1, 0)->text(), QStringLiteral("d"));
+        delete table.takeItem(0, 0);
+        MatrixContents back;
+        back.fillFromTable(&table);
+        QVERIFY(sameCells(back, contents));
+        back.cells[{1, 1}] = CellRecords::fromStrings({"e", {}, {}, {}}, true);
+        QVERIFY(!sameCells(back, contents));
+        back.clear();
+        QVERIFY(back.cells.isEmpty() && back.rowCount == 0 && back.columnCount == 0);
+    }
+};
 
 QTEST_MAIN(TestCellRecords)
 #include "tst_cellrecords.moc"

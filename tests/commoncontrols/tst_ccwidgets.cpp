@@ -27,6 +27,15 @@ namespace {
 const QString okIcon =
         QStringLiteral(":/qt-project.org/styles/commonstyle/images/standardbutton-ok-16.png");
 
+// prefix0, prefix1... as many as count.
+QStringList numbered(const char *prefix, int count)
+{
+    QStringList list;
+    for (int i = 0; i < count; ++i)
+        list << QLatin1String(prefix) + QString::number(i);
+    return list;
+}
+
 QAbstractButton *optionButton(AbstractOptions *options, int index)
 {
     if (auto *buttons = qobject_cast<OptionButtons *>(options))
@@ -114,16 +123,10 @@ void checkGrid(Grid *grid)
 {
     grid->setRow(3);
     grid->setColumn(4);
-    QStringList texts, tips, actions;
-    for (int i = 0; i < 12; ++i) {
-        texts << QStringLiteral("b%1").arg(i);
-        tips << QStringLiteral("tip %1").arg(i);
-        actions << QStringLiteral("act%1").arg(i);
-    }
-    grid->setTextList(texts);
+    grid->setTextList(numbered("b", 12));
     grid->setIconList({okIcon});
-    grid->setToolTips(tips);
-    grid->setActionList(actions);
+    grid->setToolTips(numbered("tip ", 12));
+    grid->setActionList(numbered("act", 12));
     QCOMPARE(grid->buttonCount(), 12);
     QCOMPARE(grid->button(11)->text(), QStringLiteral("b11"));
     QCOMPARE(grid->button(11)->toolTip(), QStringLiteral("tip 11"));
@@ -172,342 +175,326 @@ class TestCcWidgets : public QObject
     Q_OBJECT
 
 private slots:
-    void optionWidgets();
-    void optionCheckBoxChoosesBetweenTwoEntries();
-    void checkableComboBoxEntries();
-    void comboBoxActions();
-    void grids();
-    void matrixButtonKinds();
-    void popButtonMenus();
-    void pageGroupAddInsertRemove();
-    void pageGroupCurrentAndTitles();
-    void pageGroupReplaceBoxes();
-    void paneCollapses();
-    void lineEditExClearsAndValidates();
-};
-
-void TestCcWidgets::optionWidgets()
-{
-    OptionComboBox combo;
-    OptionButtons buttons;
-    OptionRadios radios;
-    OptionCheckBox checkBox;
-    for (AbstractOptions *options : QList<AbstractOptions *> {&combo, &buttons, &radios, &checkBox}) {
-        QSignalSpy currentChanged(options, &AbstractOptions::currentIndexChanged);
-        // After each change: the current entry as reported, and what the widget shows (the
-        // check box, one entry at a time, has a test of its own).
-        const auto check = [&](int current, const char *reports) {
-            QCOMPARE(options->currentIndex(), current);
-            QCOMPARE(reported(currentChanged), QLatin1String(reports));
-            QCOMPARE(options->currentText() + options->currentData(),
-                     options->textAt(current) + options->dataAt(current));
-            if (options != &checkBox)
-                QCOMPARE(shown(options), expected(options));
-        };
-        // The first list makes the first entry current. The lists stay as given; an entry
-        // beyond a short list reads as empty.
-        options->setTextList({QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")});
-        options->setIconList({okIcon, QStringLiteral("/no/such/icon.png")});
-        options->setToolTips({QStringLiteral("tip a")});
-        options->setDataList({"1", "", "3", "4"});
-        check(0, "0");
-        QCOMPARE(options->dataList().size(), 4);
-        QCOMPARE(options->textAt(3), QString());
-        options->setCurrentIndex(2);
-        check(2, "2");
-        // An entry that is not there yet becomes current once it is.
-        options->setCurrentIndex(5);
-        check(2, "");
-        QStringList many;
-        for (int i = 0; i < 40; ++i)
-            many << QStringLiteral("e%1").arg(i);
-        options->setTextList(many);
-        check(5, "5");
-        if (options != &checkBox) {
-            // A user's pick; fewer entries by many leave those that stay working.
-            optionButton(options, 0) ? optionButton(options, 1)->click()
-                                     : emit combo.comboBox()->activated(1);
-            check(1, "1");
-            options->setTextList({QStringLiteral("a"), QStringLiteral("b")});
-            check(1, "");
-            optionButton(options, 0) ? optionButton(options, 0)->click()
-                                     : emit combo.comboBox()->activated(0);
+    void optionWidgets()
+    {
+        OptionComboBox combo;
+        OptionButtons buttons;
+        OptionRadios radios;
+        OptionCheckBox checkBox;
+        for (AbstractOptions *options :
+             QList<AbstractOptions *> {&combo, &buttons, &radios, &checkBox}) {
+            QSignalSpy currentChanged(options, &AbstractOptions::currentIndexChanged);
+            // After each change: the current entry as reported, and what the widget shows (the
+            // check box, one entry at a time, has a test of its own).
+            const auto check = [&](int current, const char *reports) {
+                QCOMPARE(options->currentIndex(), current);
+                QCOMPARE(reported(currentChanged), QLatin1String(reports));
+                QCOMPARE(options->currentText() + options->currentData(),
+                         options->textAt(current) + options->dataAt(current));
+                if (options != &checkBox)
+                    QCOMPARE(shown(options), expected(options));
+            };
+            // The first list makes the first entry current. The lists stay as given; an entry
+            // beyond a short list reads as empty.
+            options->setTextList({QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")});
+            options->setIconList({okIcon, QStringLiteral("/no/such/icon.png")});
+            options->setToolTips({QStringLiteral("tip a")});
+            options->setDataList({"1", "", "3", "4"});
             check(0, "0");
-        }
-        // A shrinking list keeps the current entry in range.
-        options->setTextList({QStringLiteral("only")});
-        options->setTextList({});
-        check(-1, options == &checkBox ? "0,-1" : "-1");
-        // The invokable re-layout is reachable by its name, as undo commands call it.
-        QVERIFY(QMetaObject::invokeMethod(options, "updateGeomtries"));
-    }
-}
-
-void TestCcWidgets::optionCheckBoxChoosesBetweenTwoEntries()
-{
-    OptionCheckBox box;
-    box.setTextList({QStringLiteral("Yes"), QStringLiteral("No")});
-    box.setDataList({QStringLiteral("1"), QStringLiteral("0")});
-    QVERIFY(box.isChecked());
-    QCOMPARE(box.checkBox()->text(), QStringLiteral("Yes"));
-
-    box.checkBox()->click();
-    QVERIFY(!box.isChecked());
-    QCOMPARE(box.currentData(), QStringLiteral("0"));
-    QCOMPARE(box.checkBox()->text(), QStringLiteral("No"));
-    box.setCurrentIndex(0);
-    QVERIFY(box.isChecked());
-}
-
-void TestCcWidgets::checkableComboBoxEntries()
-{
-    CheckableTextComboBox box;
-    // Checked texts set before the entries exist apply once they do.
-    box.setCheckedTexts({QStringLiteral("Blue")});
-    box.setItemTextList({QStringLiteral("Red"), QStringLiteral("Green"), QStringLiteral("Blue")});
-    box.setToolTips({QStringLiteral("warm")});
-    QCOMPARE(box.comboBox()->count(), 3);
-    QCOMPARE(box.toolTips(), QStringList {QStringLiteral("warm")});
-    QCOMPARE(box.comboBox()->itemData(0, Qt::ToolTipRole).toString(), QStringLiteral("warm"));
-    QCOMPARE(box.checkedTexts(), QStringList {QStringLiteral("Blue")});
-
-    QSignalSpy checkedChanged(&box, &CheckableTextComboBox::checkedTextsChanged);
-    box.setChecked(0, true);
-    QCOMPARE(checkedChanged.count(), 1);
-    QCOMPARE(box.checkedTexts(), (QStringList {QStringLiteral("Red"), QStringLiteral("Blue")}));
-    QCOMPARE(box.comboBox()->lineEdit()->text(), QStringLiteral("Red, Blue"));
-
-    // New entries keep the checks of texts that stay, and show their tool tips.
-    box.setItemTextList({QStringLiteral("Blue"), QStringLiteral("Black")});
-    QCOMPARE(box.checkedTexts(), QStringList {QStringLiteral("Blue")});
-    QCOMPARE(box.comboBox()->itemData(0, Qt::ToolTipRole).toString(), QStringLiteral("warm"));
-    box.setChecked(7, true); // outside: nothing happens
-    QCOMPARE(box.checkedTexts(), QStringList {QStringLiteral("Blue")});
-}
-
-void TestCcWidgets::comboBoxActions()
-{
-    ComboBox box;
-    box.addItems({QStringLiteral("Open"), QStringLiteral("Save"), QStringLiteral("Close")});
-    box.setActionList({QStringLiteral("fileOpen"), QString()});
-    QCOMPARE(box.actionAt(2), QString());
-    QSignalSpy triggered(&box, &ComboBox::actionTriggered);
-    for (int i = 0; i < 3; ++i)
-        emit box.activated(i);
-    QCOMPARE(reported(triggered), QStringLiteral("fileOpen"));
-}
-
-void TestCcWidgets::grids()
-{
-    MatrixPushButtons matrix;
-    checkGrid(&matrix);
-    MatrixPopButtons pop;
-    checkGrid(&pop);
-}
-
-void TestCcWidgets::matrixButtonKinds()
-{
-    MatrixRadioButtons radios;
-    MatrixCheckBoxes checks;
-    QVERIFY(radios.button(0)->inherits("QRadioButton"));
-    QVERIFY(checks.button(0)->inherits("QCheckBox"));
-    // Radio buttons are exclusive, also after the grid is rebuilt; check boxes are not.
-    for (AbstractMatrixOptions *matrix : QList<AbstractMatrixOptions *> {&radios, &checks}) {
-        for (int rows : {2, 3}) {
-            matrix->setRow(rows);
-            matrix->button(0)->click();
-            matrix->button(3)->click();
-            QCOMPARE(matrix->button(0)->isChecked(), matrix == &checks);
+            QCOMPARE(options->dataList().size(), 4);
+            QCOMPARE(options->textAt(3), QString());
+            options->setCurrentIndex(2);
+            check(2, "2");
+            // An entry that is not there yet becomes current once it is.
+            options->setCurrentIndex(5);
+            check(2, "");
+            options->setTextList(numbered("e", 40));
+            check(5, "5");
+            if (options != &checkBox) {
+                // A user's pick; fewer entries by many leave those that stay working.
+                optionButton(options, 0) ? optionButton(options, 1)->click()
+                                         : emit combo.comboBox()->activated(1);
+                check(1, "1");
+                options->setTextList({QStringLiteral("a"), QStringLiteral("b")});
+                check(1, "");
+                optionButton(options, 0) ? optionButton(options, 0)->click()
+                                         : emit combo.comboBox()->activated(0);
+                check(0, "0");
+            }
+            // A shrinking list keeps the current entry in range.
+            options->setTextList({QStringLiteral("only")});
+            options->setTextList({});
+            check(-1, options == &checkBox ? "0,-1" : "-1");
+            // The invokable re-layout is reachable by its name, as undo commands call it.
+            QVERIFY(QMetaObject::invokeMethod(options, "updateGeomtries"));
         }
     }
-}
 
-void TestCcWidgets::popButtonMenus()
-{
-    // The first menu entry is the cell's action; entries an application adds stay when the
-    // actions change.
-    MatrixPopButtons pop;
-    pop.setActionList({QStringLiteral("drawLine"), QString(), QStringLiteral("drawSpline")});
-    const auto menu = [&pop](int index) {
-        QStringList texts;
-        for (const QAction *action : pop.menu(index)->actions())
-            texts << action->text();
-        return texts.join(QLatin1Char(','));
-    };
-    QCOMPARE(menu(0) + QLatin1Char('/') + menu(1), QStringLiteral("drawLine/"));
-    QVERIFY(!pop.menu(pop.buttonCount()));
-    pop.menu(2)->addAction(QStringLiteral("extra"));
-    pop.setActionList({QStringLiteral("drawLine"), QString(), QStringLiteral("drawCurve")});
-    QCOMPARE(menu(2), QStringLiteral("drawCurve,extra"));
-    pop.setActionList({});
-    QCOMPARE(menu(2), QStringLiteral("extra"));
-}
+    void optionCheckBoxChoosesBetweenTwoEntries()
+    {
+        OptionCheckBox box;
+        box.setTextList({QStringLiteral("Yes"), QStringLiteral("No")});
+        box.setDataList({QStringLiteral("1"), QStringLiteral("0")});
+        QVERIFY(box.isChecked());
+        QCOMPARE(box.checkBox()->text(), QStringLiteral("Yes"));
 
-void TestCcWidgets::pageGroupAddInsertRemove()
-{
-    DrawbackBoxGroup group;
-    QSignalSpy currentChanged(&group, &DrawbackBoxGroup::currentIndexChanged);
-    QVERIFY(!group.widget(0));
-    QWidget *a = page(QStringLiteral("A"));
-    QVERIFY(QMetaObject::invokeMethod(&group, "addPage", Q_ARG(QWidget *, a)));
-    group.addPage(a); // a page in the group already stays where it is
-    QCOMPARE(pages(group, currentChanged), QStringLiteral("[A] <- 0"));
-    QCOMPARE(group.box(0)->widget(), a);
+        box.checkBox()->click();
+        QVERIFY(!box.isChecked());
+        QCOMPARE(box.currentData(), QStringLiteral("0"));
+        QCOMPARE(box.checkBox()->text(), QStringLiteral("No"));
+        box.setCurrentIndex(0);
+        QVERIFY(box.isChecked());
+    }
 
-    // Inserting in front of the current page keeps that page current; an index beyond the
-    // pages appends.
-    group.addPage(page(QStringLiteral("C")));
-    group.insertPage(1, page(QStringLiteral("B")));
-    group.setCurrentIndex(1);
-    group.insertPage(0, page(QStringLiteral("0")));
-    group.insertPage(99, page(QStringLiteral("D")));
-    QCOMPARE(pages(group, currentChanged), QStringLiteral("0 A [B] C D <- 1,2"));
-    QCOMPARE(group.indexOf(group.widget(3)), 3);
+    void checkableComboBoxEntries()
+    {
+        CheckableTextComboBox box;
+        // Checked texts set before the entries exist apply once they do.
+        box.setCheckedTexts({QStringLiteral("Blue")});
+        box.setItemTextList({"Red", "Green", "Blue"});
+        box.setToolTips({QStringLiteral("warm")});
+        QCOMPARE(box.comboBox()->count(), 3);
+        QCOMPARE(box.toolTips(), QStringList {QStringLiteral("warm")});
+        QCOMPARE(box.comboBox()->itemData(0, Qt::ToolTipRole).toString(), QStringLiteral("warm"));
+        QCOMPARE(box.checkedTexts(), QStringList {QStringLiteral("Blue")});
 
-    // Removing takes the page out but keeps it alive.
-    QPointer<QWidget> removed = group.widget(2);
-    group.removePage(2);
-    group.removePage(17);
-    QVERIFY(removed && removed->isHidden());
-    QCOMPARE(group.indexOf(removed), -1);
-    QCOMPARE(pages(group, currentChanged), QStringLiteral("0 A [C] D <- 2"));
-    group.removePage(0);
-    QCOMPARE(pages(group, currentChanged), QStringLiteral("A [C] D <- 1"));
-    while (group.count() > 0)
-        group.removePage(group.count() - 1);
-    QCOMPARE(pages(group, currentChanged), QStringLiteral(" <- 0,-1"));
-    delete removed;
-}
+        QSignalSpy checkedChanged(&box, &CheckableTextComboBox::checkedTextsChanged);
+        box.setChecked(0, true);
+        QCOMPARE(checkedChanged.count(), 1);
+        QCOMPARE(box.checkedTexts(), (QStringList {QStringLiteral("Red"), QStringLiteral("Blue")}));
+        QCOMPARE(box.comboBox()->lineEdit()->text(), QStringLiteral("Red, Blue"));
 
-void TestCcWidgets::pageGroupCurrentAndTitles()
-{
-    DrawbackBoxGroup group;
-    QSignalSpy currentChanged(&group, &DrawbackBoxGroup::currentIndexChanged);
-    QSignalSpy titleChanged(&group, &DrawbackBoxGroup::pageTitleChanged);
+        // New entries keep the checks of texts that stay, and show their tool tips.
+        box.setItemTextList({QStringLiteral("Blue"), QStringLiteral("Black")});
+        QCOMPARE(box.checkedTexts(), QStringList {QStringLiteral("Blue")});
+        QCOMPARE(box.comboBox()->itemData(0, Qt::ToolTipRole).toString(), QStringLiteral("warm"));
+        box.setChecked(7, true); // outside: nothing happens
+        QCOMPARE(box.checkedTexts(), QStringList {QStringLiteral("Blue")});
+    }
 
-    // A current index set before the pages exist, as a form loader does, takes effect; one
-    // out of range, or the current one again, changes nothing.
-    QVERIFY(group.setProperty("currentIndex", 2));
-    for (const char *title : {"p0", "p1", "p2"})
-        group.addPage(page(QLatin1String(title)));
-    QCOMPARE(pages(group, currentChanged), QStringLiteral("p0 p1 [p2] <- 0,2"));
-    group.setCurrentIndex(2);
-    group.setCurrentIndex(-1);
-    group.setCurrentIndex(0);
-    QCOMPARE(pages(group, currentChanged), QStringLiteral("[p0] p1 p2 <- 0"));
+    void comboBoxActions()
+    {
+        ComboBox box;
+        box.addItems({QStringLiteral("Open"), QStringLiteral("Save"), QStringLiteral("Close")});
+        box.setActionList({QStringLiteral("fileOpen"), QString()});
+        QCOMPARE(box.actionAt(2), QString());
+        QSignalSpy triggered(&box, &ComboBox::actionTriggered);
+        for (int i = 0; i < 3; ++i)
+            emit box.activated(i);
+        QCOMPARE(reported(triggered), QStringLiteral("fileOpen"));
+    }
 
-    // A title goes to the current page and its box; a window title set on a page (as a form
-    // loader does) shows on its box.
-    group.setPageTitle(QStringLiteral("General"));
-    group.widget(1)->setWindowTitle(QStringLiteral("Loaded"));
-    QCOMPARE(reported(titleChanged), QStringLiteral("General"));
-    QCOMPARE(pages(group, currentChanged), QStringLiteral("[General] Loaded p2 <- "));
+    void grids()
+    {
+        MatrixPushButtons matrix;
+        checkGrid(&matrix);
+        MatrixPopButtons pop;
+        checkGrid(&pop);
+    }
 
-    // Clicking a box's title bar makes its page current; that page fills its box below the
-    // title bar.
-    auto *titleBar = group.box(1)->findChild<QToolButton *>();
-    QCOMPARE(titleBar->text(), QStringLiteral("Loaded"));
-    titleBar->click();
-    QCOMPARE(pages(group, currentChanged), QStringLiteral("General [Loaded] p2 <- 1"));
-    group.resize(200, 300);
-    group.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&group));
-    QTRY_COMPARE(group.widget(1)->geometry(),
-                 QRect(0, titleBar->height(), group.box(1)->width(),
-                       group.box(1)->height() - titleBar->height()));
-    QVERIFY(group.widget(1)->height() > titleBar->height());
+    void matrixButtonKinds()
+    {
+        MatrixRadioButtons radios;
+        MatrixCheckBoxes checks;
+        QVERIFY(radios.button(0)->inherits("QRadioButton"));
+        QVERIFY(checks.button(0)->inherits("QCheckBox"));
+        // Radio buttons are exclusive, also after the grid is rebuilt; check boxes are not.
+        for (AbstractMatrixOptions *matrix : QList<AbstractMatrixOptions *> {&radios, &checks}) {
+            for (int rows : {2, 3}) {
+                matrix->setRow(rows);
+                matrix->button(0)->click();
+                matrix->button(3)->click();
+                QCOMPARE(matrix->button(0)->isChecked(), matrix == &checks);
+            }
+        }
+    }
 
-    DrawbackBoxGroup empty;
-    QSignalSpy emptyTitle(&empty, &DrawbackBoxGroup::pageTitleChanged);
-    empty.setPageTitle(QStringLiteral("none"));
-    QCOMPARE(emptyTitle.count(), 0);
-}
+    void popButtonMenus()
+    {
+        // The first menu entry is the cell's action; entries an application adds stay when the
+        // actions change.
+        MatrixPopButtons pop;
+        pop.setActionList({QStringLiteral("drawLine"), QString(), QStringLiteral("drawSpline")});
+        const auto menu = [&pop](int index) {
+            QStringList texts;
+            for (const QAction *action : pop.menu(index)->actions())
+                texts << action->text();
+            return texts.join(QLatin1Char(','));
+        };
+        QCOMPARE(menu(0) + QLatin1Char('/') + menu(1), QStringLiteral("drawLine/"));
+        QVERIFY(!pop.menu(pop.buttonCount()));
+        pop.menu(2)->addAction(QStringLiteral("extra"));
+        pop.setActionList({QStringLiteral("drawLine"), QString(), QStringLiteral("drawCurve")});
+        QCOMPARE(menu(2), QStringLiteral("drawCurve,extra"));
+        pop.setActionList({});
+        QCOMPARE(menu(2), QStringLiteral("extra"));
+    }
 
-void TestCcWidgets::pageGroupReplaceBoxes()
-{
-    DrawbackBoxGroup group;
-    for (const char *title : {"p0", "p1", "p2"})
-        group.addPage(page(QLatin1String(title)));
-    group.setCurrentIndex(1);
-    QSignalSpy currentChanged(&group, &DrawbackBoxGroup::currentIndexChanged);
-    QList<DrawbackBox *> boxes = {group.box(0), group.box(1), group.box(2)};
+    void pageGroupAddInsertRemove()
+    {
+        DrawbackBoxGroup group;
+        QSignalSpy currentChanged(&group, &DrawbackBoxGroup::currentIndexChanged);
+        QVERIFY(!group.widget(0));
+        QWidget *a = page(QStringLiteral("A"));
+        QVERIFY(QMetaObject::invokeMethod(&group, "addPage", Q_ARG(QWidget *, a)));
+        group.addPage(a); // a page in the group already stays where it is
+        QCOMPARE(pages(group, currentChanged), QStringLiteral("[A] <- 0"));
+        QCOMPARE(group.box(0)->widget(), a);
 
-    // A new box from elsewhere, two kept in a new order (once each), one left out: the page
-    // that was current stays current; the box left out is kept, hidden, for whoever wants it
-    // back.
-    auto *newBox = new DrawbackBox;
-    newBox->setWidget(page(QStringLiteral("new")));
-    QCOMPARE(group.replaceBoxes({boxes.at(2), newBox, nullptr, boxes.at(1), boxes.at(2)}), 3);
-    QCOMPARE(pages(group, currentChanged), QStringLiteral("p2 new [p1] <- 2"));
-    QCOMPARE(newBox->parentWidget(), &group);
-    QVERIFY(boxes.at(0)->isHidden());
-    newBox->findChild<QToolButton *>()->click();
-    QCOMPARE(pages(group, currentChanged), QStringLiteral("p2 [new] p1 <- 1"));
+        // Inserting in front of the current page keeps that page current; an index beyond the
+        // pages appends.
+        group.addPage(page(QStringLiteral("C")));
+        group.insertPage(1, page(QStringLiteral("B")));
+        group.setCurrentIndex(1);
+        group.insertPage(0, page(QStringLiteral("0")));
+        group.insertPage(99, page(QStringLiteral("D")));
+        QCOMPARE(pages(group, currentChanged), QStringLiteral("0 A [B] C D <- 1,2"));
+        QCOMPARE(group.indexOf(group.widget(3)), 3);
 
-    // Its page comes back with it; clicks on it reach the group again.
-    QCOMPARE(group.replaceBoxes(boxes), 3);
-    boxes.at(1)->findChild<QToolButton *>()->click();
-    boxes.at(0)->findChild<QToolButton *>()->click();
-    QCOMPARE(pages(group, currentChanged), QStringLiteral("[p0] p1 p2 <- 0,1,0"));
-    // newBox is now a hidden child of the group and goes with it.
-    QCOMPARE(group.replaceBoxes({}), 0);
-    QCOMPARE(group.currentIndex(), -1);
-}
+        // Removing takes the page out but keeps it alive.
+        QPointer<QWidget> removed = group.widget(2);
+        group.removePage(2);
+        group.removePage(17);
+        QVERIFY(removed && removed->isHidden());
+        QCOMPARE(group.indexOf(removed), -1);
+        QCOMPARE(pages(group, currentChanged), QStringLiteral("0 A [C] D <- 2"));
+        group.removePage(0);
+        QCOMPARE(pages(group, currentChanged), QStringLiteral("A [C] D <- 1"));
+        while (group.count() > 0)
+            group.removePage(group.count() - 1);
+        QCOMPARE(pages(group, currentChanged), QStringLiteral(" <- 0,-1"));
+        delete removed;
+    }
 
-void TestCcWidgets::paneCollapses()
-{
-    Pane pane;
-    auto *child = new QLabel(QStringLiteral("inside"), &pane);
-    auto *hiddenChild = new QLabel(QStringLiteral("hidden"), &pane);
-    hiddenChild->hide();
-    pane.resize(200, 150);
-    pane.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&pane));
-    // Children sit below the title bar; a click on it collapses the pane to it.
-    QVERIFY(pane.contentsRect().top() > 0);
-    QSignalSpy expandedChanged(&pane, &Pane::expandedChanged);
-    QTest::mouseClick(&pane, Qt::LeftButton, {}, QPoint(20, 5));
-    QCOMPARE(reported(expandedChanged), QStringLiteral("false"));
-    QVERIFY(child->isHidden());
-    QVERIFY(pane.height() <= pane.contentsRect().top() + 1);
-    pane.setExpanded(true);
-    QVERIFY(!child->isHidden());
-    QVERIFY(hiddenChild->isHidden()); // a child hidden before collapsing stays hidden
-    // A click below the title bar does not collapse it.
-    QTest::mouseClick(&pane, Qt::LeftButton, {}, QPoint(20, pane.height() - 5));
-    QVERIFY(pane.isExpanded());
+    void pageGroupCurrentAndTitles()
+    {
+        DrawbackBoxGroup group;
+        QSignalSpy currentChanged(&group, &DrawbackBoxGroup::currentIndexChanged);
+        QSignalSpy titleChanged(&group, &DrawbackBoxGroup::pageTitleChanged);
 
-    // Collapsed before its children exist, as a loaded form is: they are hidden on show.
-    Pane collapsedFirst;
-    collapsedFirst.setExpanded(false);
-    auto *late = new QLabel(QStringLiteral("late"), &collapsedFirst);
-    collapsedFirst.show();
-    QVERIFY(late->isHidden());
-}
+        // A current index set before the pages exist, as a form loader does, takes effect; one
+        // out of range, or the current one again, changes nothing.
+        QVERIFY(group.setProperty("currentIndex", 2));
+        for (const char *title : {"p0", "p1", "p2"})
+            group.addPage(page(QLatin1String(title)));
+        QCOMPARE(pages(group, currentChanged), QStringLiteral("p0 p1 [p2] <- 0,2"));
+        group.setCurrentIndex(2);
+        group.setCurrentIndex(-1);
+        group.setCurrentIndex(0);
+        QCOMPARE(pages(group, currentChanged), QStringLiteral("[p0] p1 p2 <- 0"));
 
-void TestCcWidgets::lineEditExClearsAndValidates()
-{
-    LineEditEx edit;
-    QCOMPARE(edit.actions().size(), 1);
-    QAction *clear = edit.actions().at(0);
-    QVERIFY(!clear->isVisible());
-    edit.setText(QStringLiteral("abc"));
-    QVERIFY(clear->isVisible());
-    clear->trigger();
-    QVERIFY(edit.text().isEmpty());
-    QVERIFY(!clear->isVisible());
+        // A title goes to the current page and its box; a window title set on a page (as a form
+        // loader does) shows on its box.
+        group.setPageTitle(QStringLiteral("General"));
+        group.widget(1)->setWindowTitle(QStringLiteral("Loaded"));
+        QCOMPARE(reported(titleChanged), QStringLiteral("General"));
+        QCOMPARE(pages(group, currentChanged), QStringLiteral("[General] Loaded p2 <- "));
 
-    // Input must match the pattern; an invalid pattern changes nothing.
-    edit.setPattern(QStringLiteral("[A-Z]-[0-9]*"));
-    QTest::keyClicks(&edit, QStringLiteral("a1B-12x"));
-    QCOMPARE(edit.text(), QStringLiteral("B-12"));
-    edit.setPattern(QStringLiteral("(unclosed"));
-    QCOMPARE(edit.pattern(), QStringLiteral("[A-Z]-[0-9]*"));
-    edit.setPattern(QString());
-    QVERIFY(!edit.validator());
-    QTest::keyClicks(&edit, QStringLiteral("zz"));
-    QCOMPARE(edit.text(), QStringLiteral("B-12zz"));
-}
+        // Clicking a box's title bar makes its page current; that page fills its box below the
+        // title bar.
+        auto *titleBar = group.box(1)->findChild<QToolButton *>();
+        QCOMPARE(titleBar->text(), QStringLiteral("Loaded"));
+        titleBar->click();
+        QCOMPARE(pages(group, currentChanged), QStringLiteral("General [Loaded] p2 <- 1"));
+        group.resize(200, 300);
+        group.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&group));
+        QTRY_COMPARE(group.widget(1)->geometry(),
+                     QRect(0, titleBar->height(), group.box(1)->width(),
+                           group.box(1)->height() - titleBar->height()));
+        QVERIFY(group.widget(1)->height() > titleBar->height());
+
+        DrawbackBoxGroup empty;
+        QSignalSpy emptyTitle(&empty, &DrawbackBoxGroup::pageTitleChanged);
+        empty.setPageTitle(QStringLiteral("none"));
+        QCOMPARE(emptyTitle.count(), 0);
+    }
+
+    void pageGroupReplaceBoxes()
+    {
+        DrawbackBoxGroup group;
+        for (const char *title : {"p0", "p1", "p2"})
+            group.addPage(page(QLatin1String(title)));
+        group.setCurrentIndex(1);
+        QSignalSpy currentChanged(&group, &DrawbackBoxGroup::currentIndexChanged);
+        QList<DrawbackBox *> boxes = {group.box(0), group.box(1), group.box(2)};
+
+        // A new box from elsewhere, two kept in a new order (once each), one left out: the page
+        // that was current stays current; the box left out is kept, hidden, for whoever wants it
+        // back.
+        auto *newBox = new DrawbackBox;
+        newBox->setWidget(page(QStringLiteral("new")));
+        QCOMPARE(group.replaceBoxes({boxes.at(2), newBox, nullptr, boxes.at(1), boxes.at(2)}), 3);
+        QCOMPARE(pages(group, currentChanged), QStringLiteral("p2 new [p1] <- 2"));
+        QCOMPARE(newBox->parentWidget(), &group);
+        QVERIFY(boxes.at(0)->isHidden());
+        newBox->findChild<QToolButton *>()->click();
+        QCOMPARE(pages(group, currentChanged), QStringLiteral("p2 [new] p1 <- 1"));
+
+        // Its page comes back with it; clicks on it reach the group again.
+        QCOMPARE(group.replaceBoxes(boxes), 3);
+        boxes.at(1)->findChild<QToolButton *>()->click();
+        boxes.at(0)->findChild<QToolButton *>()->click();
+        QCOMPARE(pages(group, currentChanged), QStringLiteral("[p0] p1 p2 <- 0,1,0"));
+        // newBox is now a hidden child of the group and goes with it.
+        QCOMPARE(group.replaceBoxes({}), 0);
+        QCOMPARE(group.currentIndex(), -1);
+    }
+
+    void paneCollapses()
+    {
+        Pane pane;
+        auto *child = new QLabel(QStringLiteral("inside"), &pane);
+        auto *hiddenChild = new QLabel(QStringLiteral("hidden"), &pane);
+        hiddenChild->hide();
+        pane.resize(200, 150);
+        pane.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&pane));
+        // Children sit below the title bar; a click on it collapses the pane to it.
+        QVERIFY(pane.contentsRect().top() > 0);
+        QSignalSpy expandedChanged(&pane, &Pane::expandedChanged);
+        QTest::mouseClick(&pane, Qt::LeftButton, {}, QPoint(20, 5));
+        QCOMPARE(reported(expandedChanged), QStringLiteral("false"));
+        QVERIFY(child->isHidden());
+        QVERIFY(pane.height() <= pane.contentsRect().top() + 1);
+        pane.setExpanded(true);
+        QVERIFY(!child->isHidden());
+        QVERIFY(hiddenChild->isHidden()); // a child hidden before collapsing stays hidden
+        // A click below the title bar does not collapse it.
+        QTest::mouseClick(&pane, Qt::LeftButton, {}, QPoint(20, pane.height() - 5));
+        QVERIFY(pane.isExpanded());
+
+        // Collapsed before its children exist, as a loaded form is: they are hidden on show.
+        Pane collapsedFirst;
+        collapsedFirst.setExpanded(false);
+        auto *late = new QLabel(QStringLiteral("late"), &collapsedFirst);
+        collapsedFirst.show();
+        QVERIFY(late->isHidden());
+    }
+
+    void lineEditExClearsAndValidates()
+    {
+        LineEditEx edit;
+        QCOMPARE(edit.actions().size(), 1);
+        QAction *clear = edit.actions().at(0);
+        QVERIFY(!clear->isVisible());
+        edit.setText(QStringLiteral("abc"));
+        QVERIFY(clear->isVisible());
+        clear->trigger();
+        QVERIFY(edit.text().isEmpty() && !clear->isVisible());
+
+        // Input must match the pattern; an invalid pattern changes nothing.
+        edit.setPattern(QStringLiteral("[A-Z]-[0-9]*"));
+        QTest::keyClicks(&edit, QStringLiteral("a1B-12x"));
+        QCOMPARE(edit.text(), QStringLiteral("B-12"));
+        edit.setPattern(QStringLiteral("(unclosed"));
+        QCOMPARE(edit.pattern(), QStringLiteral("[A-Z]-[0-9]*"));
+        edit.setPattern(QString());
+        QVERIFY(!edit.validator());
+        QTest::keyClicks(&edit, QStringLiteral("zz"));
+        QCOMPARE(edit.text(), QStringLiteral("B-12zz"));
+    }
+};
 
 QTEST_MAIN(TestCcWidgets)
 #include "tst_ccwidgets.moc"

@@ -20,6 +20,7 @@
 
 using namespace qdesigner_internal;
 using CcTest::openEditor;
+using CcTest::stringOf;
 
 namespace {
 
@@ -35,19 +36,6 @@ public:
     bool isEmpty() const override { return false; }
     mutable QSet<QString> seen;
 };
-
-QListWidgetItem *makeItem(const QString &text)
-{
-    auto *item = new QListWidgetItem(text);
-    item->setData(Qt::DisplayPropertyRole, CcTest::stringValue(text));
-    item->setFlags(item->flags() | Qt::ItemIsEditable);
-    return item;
-}
-
-PropertySheetStringValue stringOf(const QVariant &value)
-{
-    return qvariant_cast<PropertySheetStringValue>(value);
-}
 
 int freshItemFlags() { return int(QListWidgetItem().flags()); }
 
@@ -77,369 +65,360 @@ class TestItemListEditor : public QObject
 {
     Q_OBJECT
 private slots:
-    void initTestCase();
-    void cleanup() { m_editor.reset(); }
-    void cleanupTestCase();
+    void initTestCase()
+    {
+        CcTest::usePluginModulesOnly({});
+        CcTest::designerCore();
+        m_form = CcTest::createFormWindow(
+                CcTest::formXml(QStringLiteral("<widget class=\"QComboBox\" name=\"combo\"/>")));
+        QVERIFY(qobject_cast<FormWindowBase *>(m_form));
+        m_object = CcTest::formChild(m_form, "combo");
+        QVERIFY(m_object);
+        QVERIFY(!m_pictures.red.isEmpty() && !m_pictures.blue.isEmpty());
+    }
 
-    void formTextsAndPaneToggle();
-    void propertyTableBecomesProperties();
-    void settingAndResettingValues();
-    void listOperationsAndSelectionRules();
-    void reLayoutOnlyWhenTheLineCountChanges();
-    void rendersIconsFromTheCache();
+    void cleanup() { m_editor.reset(); }
+    void cleanupTestCase() { CcTest::closeFormWindow(m_form); }
+
+    void formTextsAndPaneToggle()
+    {
+        RecordingTranslator translator;
+        QCoreApplication::installTranslator(&translator);
+        ItemListEditor editor(m_form, nullptr);
+        QCOMPARE(editor.objectName(), QStringLiteral("qdesigner_internal__ItemListEditor"));
+        QCOMPARE(editor.size(), QSize(550, 360));
+
+        // The pane starts hidden; the button toggles it and tells what a click will do.
+        editor.show();
+        auto *toggle = editor.findChild<QPushButton *>(QStringLiteral("showPropertiesButton"));
+        QVERIFY(!editor.propertyBrowser()->isVisible());
+        for (const bool visible : {true, false}) {
+            QTest::mouseClick(toggle, Qt::LeftButton);
+            QCOMPARE(editor.propertyBrowser()->isVisible(), visible);
+            QCOMPARE(toggle->text(),
+                     visible ? QStringLiteral("Properties &>>") : QStringLiteral("Properties &<<"));
+        }
+        editor.setPropertyBrowserVisible(true);
+        QCOMPARE(toggle->text(), QStringLiteral("Properties &>>"));
+        QCoreApplication::removeTranslator(&translator);
+
+        // The list and each button show a text, looked up in the editor's context (the pane's
+        // own, sized to a text of its context); the tool buttons have icons.
+        QStringList shown = {QStringLiteral("ItemPropertyBrowser|XX Icon Selected off")};
+        for (QWidget *widget : editor.findChildren<QWidget *>()) {
+            auto *button = qobject_cast<QAbstractButton *>(widget);
+            if (!button && widget != editor.listWidget())
+                continue;
+            QVERIFY(!qobject_cast<QToolButton *>(button) || !button->icon().isNull());
+            const QString texts[] = {widget->toolTip(), button ? button->text() : QString()};
+            QVERIFY2(!(texts[0] + texts[1]).isEmpty(), qPrintable(widget->objectName()));
+            for (const QString &text : texts) {
+                if (!text.isEmpty())
+                    shown << QStringLiteral("qdesigner_internal::ItemListEditor|") + text;
+            }
+        }
+        for (const QString &text : qAsConst(shown))
+            QVERIFY2(translator.seen.contains(text), qPrintable(text));
+    }
+
+    void propertyTableBecomesProperties()
+    {
+        // Each row of the table is a resettable property, shown in the table's order.
+        ItemListEditor *editor = makeEditor({"One"});
+        const QList<QtBrowserItem *> shown = editor->propertyBrowser()->topLevelItems();
+        QStringList names;
+        for (QtVariantProperty *property : editor->properties()) {
+            QCOMPARE(shown.value(names.size())->property(), static_cast<QtProperty *>(property));
+            QCOMPARE(property->attributeValue(QStringLiteral("resettable")), QVariant(true));
+            names.append(property->propertyName());
+        }
+        QCOMPARE(names,
+                 QStringList({"text", "icon", "toolTip", "statusTip", "whatsThis", "font",
+                              "checkState", "flags"}));
+        QCOMPARE(itemProperty("flags")->attributeValue(QStringLiteral("flagNames")),
+                 QVariant(QStringList({"Selectable", "Editable", "DragEnabled", "DropEnabled",
+                                       "UserCheckable", "Enabled", "Tristate"})));
+        QCOMPARE(itemProperty("checkState")->attributeValue(QStringLiteral("enumNames")),
+                 QVariant(QStringList({"Unchecked", "PartiallyChecked", "Checked"})));
+
+        // Filled from row 0: set roles show as modified, missing ones as the default.
+        QCOMPARE(stringOf(itemProperty("text")->value()).value(), QStringLiteral("One"));
+        QVERIFY(itemProperty("text")->isModified());
+        QCOMPARE(itemProperty("flags")->value().toInt(), freshItemFlags());
+        QVERIFY(!itemProperty("flags")->isModified());
+    }
+
+    void settingAndResettingValues()
+    {
+        ItemListEditor *editor = makeEditor({"One", "Two"});
+        editor->listWidget()->setCurrentRow(1);
+        QListWidgetItem *item = editor->listWidget()->item(1);
+        ItemPropertyBrowser *browser = editor->propertyBrowser();
+        const auto resetInThePane = [browser](QtProperty *property) {
+            auto *reset = openEditor<ResetWidget>(browser, property);
+            QVERIFY(reset && reset->resetButton()->isEnabled());
+            reset->resetButton()->click();
+        };
+
+        // A value goes to its role and to the plain role that shows it, reported in that order.
+        // The property's reset button in the pane, or its default, removes the role again and
+        // empties the plain one; the property is no longer modified. The pane's editor of a
+        // string takes several lines where its validation mode allows them.
+        // clang-format off
+        const struct
+        {
+            const char *property;
+            int mode, role, plainRole;
+            QVariant value, defaultValue;
+        } cases[] = {
+                {"text", ValidationMultiLine, Qt::DisplayPropertyRole, Qt::EditRole,
+                 CcTest::stringValue("two\nlines"), {}},
+                {"toolTip", ValidationRichText, Qt::ToolTipPropertyRole, Qt::ToolTipRole,
+                 CcTest::stringValue("<b>tip</b>"), {}},
+                {"statusTip", ValidationSingleLine, Qt::StatusTipPropertyRole, Qt::StatusTipRole,
+                 CcTest::stringValue("status"), {}},
+                {"whatsThis", ValidationRichText, Qt::WhatsThisPropertyRole, Qt::WhatsThisRole,
+                 CcTest::stringValue("<i>w</i>"), {}},
+                {"icon", -1, Qt::DecorationPropertyRole, Qt::DecorationRole,
+                 CcTest::iconValue(m_pictures.red), QVariant::fromValue(PropertySheetIconValue())},
+                {"flags", -1, ItemFlagsRole, -1, freshItemFlags() & ~int(Qt::ItemIsEnabled),
+                 freshItemFlags()},
+                {"checkState", -1, Qt::CheckStateRole, -1, int(Qt::Checked), {}},
+        };
+        // clang-format on
+        for (const auto &c : cases) {
+            QtVariantProperty *property = itemProperty(c.property);
+            QCOMPARE(property->attributeValue("validationMode"),
+                     c.mode < 0 ? QVariant() : QVariant(c.mode));
+            for (const bool byReset : {false, true}) {
+                if (!byReset && !c.defaultValue.isValid())
+                    continue;
+                QSignalSpy changed(editor, &ItemListEditor::itemChanged);
+                property->setValue(c.value);
+                QVERIFY2(item->data(c.role).isValid() && property->isModified(), c.property);
+                QCOMPARE(changed.first().mid(0, 2), QVariantList({1, c.role}));
+                const QVariant plain = item->data(c.plainRole);
+                if (c.plainRole == Qt::DecorationRole)
+                    QCOMPARE(qvariant_cast<QIcon>(plain).pixmap(16, 16).toImage().pixelColor(8, 8),
+                             QColor(Qt::red));
+                else if (c.plainRole >= 0)
+                    QCOMPARE(plain.toString(), stringOf(c.value).value());
+                QCOMPARE(changed.last().mid(0, 2),
+                         QVariantList({1, c.plainRole < 0 ? c.role : c.plainRole}));
+                changed.clear();
+                if (byReset)
+                    resetInThePane(property);
+                else
+                    property->setValue(c.defaultValue);
+                QVERIFY2(!item->data(c.role).isValid() && !property->isModified(), c.property);
+                QVERIFY(!changed.isEmpty() && !changed.first().at(2).isValid());
+                QCOMPARE(changed.first().at(1).toInt(), c.role);
+                if (c.plainRole >= 0) {
+                    QVERIFY2(qvariant_cast<QIcon>(item->data(c.plainRole)).isNull()
+                                     && item->data(c.plainRole).toString().isEmpty(),
+                             c.property);
+                    QCOMPARE(changed.last().at(1).toInt(), c.plainRole);
+                }
+            }
+            // Nothing left to reset.
+            QVERIFY(!openEditor<ResetWidget>(browser, property)->resetButton()->isEnabled());
+        }
+        QCOMPARE(itemProperty("flags")->value().toInt(), freshItemFlags());
+
+        // A font part is resolved against the list's font; resetting the only part that was set
+        // leaves nothing resolved: the role goes.
+        QtVariantProperty *bold = CcTest::subProperty(itemProperty("font"), QStringLiteral("Bold"));
+        bold->setValue(true);
+        const QFont itemFont = qvariant_cast<QFont>(item->data(Qt::FontRole));
+        QVERIFY(itemFont.bold());
+        QCOMPARE(CcQt::fontResolveMask(itemFont), uint(QFont::WeightResolved));
+        QCOMPARE(itemFont.family(), editor->listWidget()->font().family());
+        resetInThePane(bold);
+        QVERIFY(!item->data(Qt::FontRole).isValid());
+        QVERIFY(!itemProperty("font")->isModified());
+
+        // An icon part's reset clears that part only, and the icon is still set.
+        PropertySheetIconValue twoStates {PropertySheetPixmapValue(m_pictures.red)};
+        twoStates.setPixmap(QIcon::Normal, QIcon::On, PropertySheetPixmapValue(m_pictures.blue));
+        itemProperty("icon")->setValue(QVariant::fromValue(twoStates));
+        resetInThePane(CcTest::subProperty(itemProperty("icon"), QStringLiteral("Normal On")));
+        const auto left =
+                qvariant_cast<PropertySheetIconValue>(item->data(Qt::DecorationPropertyRole));
+        QCOMPARE(left.pixmap(QIcon::Normal, QIcon::On).path(), QString());
+        QCOMPARE(left.pixmap(QIcon::Normal, QIcon::Off).path(), m_pictures.red);
+        QVERIFY(itemProperty("icon")->isModified());
+
+        // Only the current row changed: the pane shows the other one's own values.
+        itemProperty("checkState")->setValue(int(Qt::Checked));
+        editor->listWidget()->setCurrentRow(0);
+        for (const QtVariantProperty *untouched : editor->properties())
+            QCOMPARE(untouched->isModified(), untouched->propertyName() == QLatin1String("text"));
+        QCOMPARE(itemProperty("checkState")->value().toInt(), 0);
+        editor->listWidget()->setCurrentRow(1);
+        QVERIFY(itemProperty("icon")->isModified());
+        QCOMPARE(itemProperty("checkState")->value().toInt(), 2);
+    }
+
+    void listOperationsAndSelectionRules()
+    {
+        ItemListEditor *editor = makeEditor({"A", "B", "C"});
+        QListWidget *list = editor->listWidget();
+        const auto click = [editor](const char *button) {
+            QTest::mouseClick(editor->findChild<QToolButton *>(QLatin1String(button)),
+                              Qt::LeftButton);
+        };
+        // New opens the new item for renaming; Escape keeps its text.
+        const auto clickNew = [&] {
+            click("newListItemButton");
+            QLineEdit *inPlace = list->findChild<QLineEdit *>();
+            QVERIFY(inPlace && inPlace->isVisible());
+            QCOMPARE(inPlace->text(), QStringLiteral("New Item"));
+            QTest::keyClick(inPlace, Qt::Key_Escape);
+            CcTest::settle();
+        };
+
+        // setCurrentIndex selects silently; a user's selection is reported.
+        QSignalSpy index(editor, &ItemListEditor::indexChanged);
+        QCOMPARE(listState(editor), QStringLiteral("[A] B C dv"));
+        editor->setCurrentIndex(2);
+        QCOMPARE(listState(editor), QStringLiteral("A B [C] du"));
+        list->setCurrentRow(1);
+        QCOMPARE(index.size(), 1);
+        QCOMPARE(index.last().at(0).toInt(), 1);
+
+        // New goes below the current row, appends on the last, and goes first with none current.
+        clickNew();
+        QCOMPARE(stringOf(list->item(2)->data(Qt::DisplayPropertyRole)),
+                 PropertySheetStringValue(QStringLiteral("New Item")));
+        list->setCurrentRow(3);
+        clickNew();
+        list->setCurrentRow(-1);
+        QCOMPARE(listState(editor), QStringLiteral("A B New Item C New Item "));
+        clickNew();
+        QCOMPARE(listState(editor), QStringLiteral("[New Item] A B New Item C New Item dv"));
+
+        // Up and down move the item and keep it current; a click on a disabled button does
+        // nothing.
+        list->setCurrentRow(4);
+        click("moveListItemUpButton");
+        for (int i = 0; i < 3; ++i)
+            click("moveListItemDownButton");
+        QCOMPARE(listState(editor), QStringLiteral("New Item A B New Item New Item [C] du"));
+
+        // Deleting keeps the row number selected and the pane shows the item now there; deleting
+        // the last row of several selects the new last row; deleting everything leaves no
+        // enabled button and an empty pane.
+        list->setCurrentRow(1);
+        click("deleteListItemButton");
+        QCOMPARE(stringOf(itemProperty("text")->value()).value(), QStringLiteral("B"));
+        list->setCurrentRow(4);
+        click("deleteListItemButton");
+        QCOMPARE(listState(editor), QStringLiteral("New Item B New Item [New Item] du"));
+        while (list->count())
+            click("deleteListItemButton");
+        QCOMPARE(listState(editor), QString());
+        QVERIFY(editor->propertyBrowser()->topLevelItems().isEmpty());
+        clickNew();
+        QCOMPARE(editor->propertyBrowser()->topLevelItems().size(), 8);
+
+        // Renaming in place keeps the value's translation data and reports the display role.
+        QListWidgetItem *item = list->item(0);
+        const PropertySheetStringValue before("B", false, "dis", "note");
+        item->setData(Qt::DisplayPropertyRole, QVariant::fromValue(before));
+        QSignalSpy changed(editor, &ItemListEditor::itemChanged);
+        list->editItem(item);
+        QLineEdit *inPlace = list->findChild<QLineEdit *>();
+        QVERIFY(inPlace);
+        inPlace->selectAll();
+        QTest::keyClicks(inPlace, QStringLiteral("Renamed"));
+        QTest::keyClick(inPlace, Qt::Key_Return);
+        CcTest::settle();
+        PropertySheetStringValue renamed = before;
+        renamed.setValue(QStringLiteral("Renamed"));
+        QCOMPARE(stringOf(item->data(Qt::DisplayPropertyRole)), renamed);
+        QCOMPARE(changed.size(), 1);
+        QCOMPARE(changed.first().mid(0, 2), QVariantList({0, int(Qt::DisplayPropertyRole)}));
+        QCOMPARE(stringOf(changed.first().at(2)), renamed);
+        QCOMPARE(stringOf(itemProperty("text")->value()), renamed);
+    }
+
+    void reLayoutOnlyWhenTheLineCountChanges()
+    {
+        // Enough rows to scroll by pixels: the scroll range follows the rows' heights as soon as
+        // the list is laid out, and is not brought up to date by reading it.
+        QStringList rows;
+        for (int i = 0; i < 30; ++i)
+            rows.append(QStringLiteral("Row %1").arg(i));
+        QListWidget *list = makeEditor(rows)->listWidget();
+        list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+        QApplication::processEvents();
+        QScrollBar *bar = list->verticalScrollBar();
+        const auto rangeAfter = [&](int role, const QVariant &value) {
+            m_editor->setItemData(role, value);
+            return bar->maximum();
+        };
+        const int oneLine = bar->maximum();
+        QCOMPARE(rangeAfter(Qt::EditRole, QStringLiteral("A longer single line")), oneLine);
+        const int twoLines = rangeAfter(Qt::EditRole, QStringLiteral("Two\nlines"));
+        QVERIFY(twoLines > oneLine);
+        QCOMPARE(rangeAfter(Qt::EditRole, QStringLiteral("Other\ntext")), twoLines);
+        QCOMPARE(rangeAfter(Qt::EditRole, QStringLiteral("One")), oneLine);
+        // A font always lays out.
+        QFont big = list->font();
+        big.setPointSize(list->font().pointSize() * 3);
+        QVERIFY(rangeAfter(Qt::FontRole, big) > oneLine);
+    }
+
+    void rendersIconsFromTheCache()
+    {
+        // An item whose icon is known but not drawn yet gets it when the form's cache reloads,
+        // and the pane shows its icon properties anew.
+        ItemListEditor *editor = makeEditor({"Apple", "Banana"});
+        QListWidgetItem *banana = editor->listWidget()->item(1);
+        banana->setData(Qt::DecorationPropertyRole, CcTest::iconValue(m_pictures.blue));
+        bool iconRepainted = false;
+        connect(editor->propertyManager(), &QtAbstractPropertyManager::propertyChanged, editor,
+                [&](QtProperty *changed) { iconRepainted |= changed == itemProperty("icon"); });
+        emit editor->iconCache()->reloaded();
+        QVERIFY(iconRepainted);
+        const QIcon shown = qvariant_cast<QIcon>(banana->data(Qt::DecorationRole));
+        QCOMPARE(shown.pixmap(16, 16).toImage().pixelColor(8, 8), QColor(Qt::blue));
+    }
 
 private:
     // An editor on the form's combo box holding the given items, set up with every kind of
     // property and its pane shown; it lives until the end of the test.
-    ItemListEditor *makeEditor(const QStringList &texts);
-    QtVariantProperty *itemProperty(const char *name) const;
+    ItemListEditor *makeEditor(const QStringList &texts)
+    {
+        m_editor.reset(new ItemListEditor(m_form, nullptr));
+        m_editor->setNewItemText(QStringLiteral("New Item"));
+        for (const QString &text : texts) {
+            auto *item = new QListWidgetItem(text);
+            item->setData(Qt::DisplayPropertyRole, CcTest::stringValue(text));
+            item->setFlags(item->flags() | Qt::ItemIsEditable);
+            m_editor->listWidget()->addItem(item);
+        }
+        m_editor->setupEditor(m_object, CcTest::allItemProperties());
+        m_editor->setPropertyBrowserVisible(true);
+        m_editor->show();
+        return m_editor.data();
+    }
+
+    QtVariantProperty *itemProperty(const char *name) const
+    {
+        const QList<QtVariantProperty *> properties = m_editor->properties();
+        for (QtVariantProperty *property : properties) {
+            if (property->propertyName() == QLatin1String(name))
+                return property;
+        }
+        return nullptr;
+    }
 
     QDesignerFormWindowInterface *m_form = nullptr;
     QWidget *m_object = nullptr;
     QScopedPointer<ItemListEditor> m_editor;
     CcTest::TestPictures m_pictures;
 };
-
-void TestItemListEditor::initTestCase()
-{
-    CcTest::usePluginModulesOnly({});
-    CcTest::designerCore();
-    m_form = CcTest::createFormWindow(
-            CcTest::formXml(QStringLiteral("<widget class=\"QComboBox\" name=\"combo\"/>")));
-    QVERIFY(qobject_cast<FormWindowBase *>(m_form));
-    m_object = m_form->mainContainer()->findChild<QWidget *>(QStringLiteral("combo"));
-    QVERIFY(m_object);
-    QVERIFY(!m_pictures.red.isEmpty() && !m_pictures.blue.isEmpty());
-}
-
-void TestItemListEditor::cleanupTestCase() { CcTest::closeFormWindow(m_form); }
-
-ItemListEditor *TestItemListEditor::makeEditor(const QStringList &texts)
-{
-    m_editor.reset(new ItemListEditor(m_form, nullptr));
-    m_editor->setNewItemText(QStringLiteral("New Item"));
-    for (const QString &text : texts)
-        m_editor->listWidget()->addItem(makeItem(text));
-    m_editor->setupEditor(m_object, CcTest::allItemProperties());
-    m_editor->setPropertyBrowserVisible(true);
-    m_editor->show();
-    return m_editor.data();
-}
-
-QtVariantProperty *TestItemListEditor::itemProperty(const char *name) const
-{
-    const QList<QtVariantProperty *> properties = m_editor->properties();
-    for (QtVariantProperty *property : properties) {
-        if (property->propertyName() == QLatin1String(name))
-            return property;
-    }
-    return nullptr;
-}
-
-void TestItemListEditor::formTextsAndPaneToggle()
-{
-    RecordingTranslator translator;
-    QCoreApplication::installTranslator(&translator);
-    ItemListEditor editor(m_form, nullptr);
-    QCOMPARE(editor.objectName(), QStringLiteral("qdesigner_internal__ItemListEditor"));
-    QCOMPARE(editor.size(), QSize(550, 360));
-
-    // The pane starts hidden; the button toggles it and tells what a click will do.
-    editor.show();
-    auto *toggle = editor.findChild<QPushButton *>(QStringLiteral("showPropertiesButton"));
-    QVERIFY(!editor.propertyBrowser()->isVisible());
-    for (const bool visible : {true, false}) {
-        QTest::mouseClick(toggle, Qt::LeftButton);
-        QCOMPARE(editor.propertyBrowser()->isVisible(), visible);
-        QCOMPARE(toggle->text(),
-                 visible ? QStringLiteral("Properties &>>") : QStringLiteral("Properties &<<"));
-    }
-    editor.setPropertyBrowserVisible(true);
-    QCOMPARE(toggle->text(), QStringLiteral("Properties &>>"));
-    QCoreApplication::removeTranslator(&translator);
-
-    // The list and each button show a text, looked up in the editor's context (the pane's
-    // own, sized to a text of its context); the tool buttons have icons.
-    QStringList shown = {QStringLiteral("ItemPropertyBrowser|XX Icon Selected off")};
-    QWidgetList widgets = {editor.listWidget()};
-    for (QAbstractButton *button : editor.findChildren<QAbstractButton *>())
-        widgets << button;
-    for (QWidget *widget : widgets) {
-        auto *button = qobject_cast<QAbstractButton *>(widget);
-        QVERIFY(!qobject_cast<QToolButton *>(button) || !button->icon().isNull());
-        const QString texts[] = {widget->toolTip(), button ? button->text() : QString()};
-        QVERIFY2(!(texts[0] + texts[1]).isEmpty(), qPrintable(widget->objectName()));
-        for (const QString &text : texts) {
-            if (!text.isEmpty())
-                shown << QStringLiteral("qdesigner_internal::ItemListEditor|") + text;
-        }
-    }
-    for (const QString &text : qAsConst(shown))
-        QVERIFY2(translator.seen.contains(text), qPrintable(text));
-}
-
-void TestItemListEditor::propertyTableBecomesProperties()
-{
-    // Each row of the table is a resettable property, shown in the table's order.
-    ItemListEditor *editor = makeEditor({"One"});
-    const QList<QtBrowserItem *> shown = editor->propertyBrowser()->topLevelItems();
-    QStringList names;
-    for (QtVariantProperty *property : editor->properties()) {
-        QCOMPARE(shown.value(names.size())->property(), static_cast<QtProperty *>(property));
-        QCOMPARE(property->attributeValue(QStringLiteral("resettable")), QVariant(true));
-        names.append(property->propertyName());
-    }
-    QCOMPARE(names,
-             QStringList({"text", "icon", "toolTip", "statusTip", "whatsThis", "font", "checkState",
-                          "flags"}));
-    QCOMPARE(itemProperty("flags")->attributeValue(QStringLiteral("flagNames")),
-             QVariant(QStringList({"Selectable", "Editable", "DragEnabled", "DropEnabled",
-                                   "UserCheckable", "Enabled", "Tristate"})));
-    QCOMPARE(itemProperty("checkState")->attributeValue(QStringLiteral("enumNames")),
-             QVariant(QStringList({"Unchecked", "PartiallyChecked", "Checked"})));
-
-    // Filled from row 0: set roles show as modified, missing ones as the default.
-    QCOMPARE(stringOf(itemProperty("text")->value()).value(), QStringLiteral("One"));
-    QVERIFY(itemProperty("text")->isModified());
-    QCOMPARE(itemProperty("flags")->value().toInt(), freshItemFlags());
-    QVERIFY(!itemProperty("flags")->isModified());
-}
-
-void TestItemListEditor::settingAndResettingValues()
-{
-    ItemListEditor *editor = makeEditor({"One", "Two"});
-    editor->listWidget()->setCurrentRow(1);
-    QListWidgetItem *item = editor->listWidget()->item(1);
-    ItemPropertyBrowser *browser = editor->propertyBrowser();
-    const auto resetInThePane = [browser](QtProperty *property) {
-        auto *reset = openEditor<ResetWidget>(browser, property);
-        QVERIFY(reset && reset->resetButton()->isEnabled());
-        reset->resetButton()->click();
-    };
-
-    // A value goes to its role and to the plain role that shows it, reported in that order.
-    // The property's reset button in the pane, or its default, removes the role again and
-    // empties the plain one; the property is no longer modified. The pane's editor of a
-    // string takes several lines where its validation mode allows them.
-    const struct
-    {
-        const char *property;
-        int mode;
-        int role;
-        int plainRole;
-        QVariant value;
-        QVariant defaultValue;
-    } cases[] = {
-            {"text", ValidationMultiLine, Qt::DisplayPropertyRole, Qt::EditRole,
-             CcTest::stringValue("two\nlines"), {}},
-            {"toolTip", ValidationRichText, Qt::ToolTipPropertyRole, Qt::ToolTipRole,
-             CcTest::stringValue("<b>tip</b>"), {}},
-            {"statusTip", ValidationSingleLine, Qt::StatusTipPropertyRole, Qt::StatusTipRole,
-             CcTest::stringValue("status"), {}},
-            {"whatsThis", ValidationRichText, Qt::WhatsThisPropertyRole, Qt::WhatsThisRole,
-             CcTest::stringValue("<i>w</i>"), {}},
-            {"icon", -1, Qt::DecorationPropertyRole, Qt::DecorationRole,
-             CcTest::iconValue(m_pictures.red), QVariant::fromValue(PropertySheetIconValue())},
-            {"flags", -1, ItemFlagsRole, -1, freshItemFlags() & ~int(Qt::ItemIsEnabled),
-             freshItemFlags()},
-            {"checkState", -1, Qt::CheckStateRole, -1, int(Qt::Checked), {}},
-    };
-    for (const auto &c : cases) {
-        QtVariantProperty *property = itemProperty(c.property);
-        QCOMPARE(property->attributeValue("validationMode"),
-                 c.mode < 0 ? QVariant() : QVariant(c.mode));
-        for (const bool byReset : {false, true}) {
-            if (!byReset && !c.defaultValue.isValid())
-                continue;
-            QSignalSpy changed(editor, &ItemListEditor::itemChanged);
-            property->setValue(c.value);
-            QVERIFY2(item->data(c.role).isValid() && property->isModified(), c.property);
-            QCOMPARE(changed.first().mid(0, 2), QVariantList({1, c.role}));
-            const QVariant plain = item->data(c.plainRole);
-            if (c.plainRole == Qt::DecorationRole)
-                QCOMPARE(qvariant_cast<QIcon>(plain).pixmap(16, 16).toImage().pixelColor(8, 8),
-                         QColor(Qt::red));
-            else if (c.plainRole >= 0)
-                QCOMPARE(plain.toString(), stringOf(c.value).value());
-            QCOMPARE(changed.last().mid(0, 2), QVariantList({1, c.plainRole < 0 ? c.role : c.plainRole}));
-            changed.clear();
-            if (byReset)
-                resetInThePane(property);
-            else
-                property->setValue(c.defaultValue);
-            QVERIFY2(!item->data(c.role).isValid() && !property->isModified(), c.property);
-            QVERIFY(!changed.isEmpty() && !changed.first().at(2).isValid());
-            QCOMPARE(changed.first().at(1).toInt(), c.role);
-            if (c.plainRole >= 0) {
-                QVERIFY2(qvariant_cast<QIcon>(item->data(c.plainRole)).isNull()
-                                 && item->data(c.plainRole).toString().isEmpty(),
-                         c.property);
-                QCOMPARE(changed.last().at(1).toInt(), c.plainRole);
-            }
-        }
-        // Nothing left to reset.
-        QVERIFY(!openEditor<ResetWidget>(browser, property)->resetButton()->isEnabled());
-    }
-    QCOMPARE(itemProperty("flags")->value().toInt(), freshItemFlags());
-
-    // A font part is resolved against the list's font; resetting the only part that was set
-    // leaves nothing resolved: the role goes.
-    QtVariantProperty *bold = CcTest::subProperty(itemProperty("font"), QStringLiteral("Bold"));
-    bold->setValue(true);
-    const QFont itemFont = qvariant_cast<QFont>(item->data(Qt::FontRole));
-    QVERIFY(itemFont.bold());
-    QCOMPARE(CcQt::fontResolveMask(itemFont), uint(QFont::WeightResolved));
-    QCOMPARE(itemFont.family(), editor->listWidget()->font().family());
-    resetInThePane(bold);
-    QVERIFY(!item->data(Qt::FontRole).isValid());
-    QVERIFY(!itemProperty("font")->isModified());
-
-    // An icon part's reset clears that part only, and the icon is still set.
-    PropertySheetIconValue twoStates {PropertySheetPixmapValue(m_pictures.red)};
-    twoStates.setPixmap(QIcon::Normal, QIcon::On, PropertySheetPixmapValue(m_pictures.blue));
-    itemProperty("icon")->setValue(QVariant::fromValue(twoStates));
-    resetInThePane(CcTest::subProperty(itemProperty("icon"), QStringLiteral("Normal On")));
-    const auto left = qvariant_cast<PropertySheetIconValue>(item->data(Qt::DecorationPropertyRole));
-    QCOMPARE(left.pixmap(QIcon::Normal, QIcon::On).path(), QString());
-    QCOMPARE(left.pixmap(QIcon::Normal, QIcon::Off).path(), m_pictures.red);
-    QVERIFY(itemProperty("icon")->isModified());
-
-    // Only the current row changed: the pane shows the other one's own values.
-    itemProperty("checkState")->setValue(int(Qt::Checked));
-    editor->listWidget()->setCurrentRow(0);
-    for (const QtVariantProperty *untouched : editor->properties())
-        QCOMPARE(untouched->isModified(), untouched->propertyName() == QLatin1String("text"));
-    QCOMPARE(itemProperty("checkState")->value().toInt(), 0);
-    editor->listWidget()->setCurrentRow(1);
-    QVERIFY(itemProperty("icon")->isModified());
-    QCOMPARE(itemProperty("checkState")->value().toInt(), 2);
-}
-
-void TestItemListEditor::listOperationsAndSelectionRules()
-{
-    ItemListEditor *editor = makeEditor({"A", "B", "C"});
-    QListWidget *list = editor->listWidget();
-    const auto click = [editor](const char *button) {
-        QTest::mouseClick(editor->findChild<QToolButton *>(QLatin1String(button)), Qt::LeftButton);
-    };
-    // New opens the new item for renaming; Escape keeps its text.
-    const auto clickNew = [&] {
-        click("newListItemButton");
-        QLineEdit *inPlace = list->findChild<QLineEdit *>();
-        QVERIFY(inPlace && inPlace->isVisible());
-        QCOMPARE(inPlace->text(), QStringLiteral("New Item"));
-        QTest::keyClick(inPlace, Qt::Key_Escape);
-        CcTest::settle();
-    };
-
-    // setCurrentIndex selects silently; a user's selection is reported.
-    QSignalSpy index(editor, &ItemListEditor::indexChanged);
-    QCOMPARE(listState(editor), QStringLiteral("[A] B C dv"));
-    editor->setCurrentIndex(2);
-    QCOMPARE(listState(editor), QStringLiteral("A B [C] du"));
-    list->setCurrentRow(1);
-    QCOMPARE(index.size(), 1);
-    QCOMPARE(index.last().at(0).toInt(), 1);
-
-    // New goes below the current row, appends on the last, and goes first with none current.
-    clickNew();
-    QCOMPARE(stringOf(list->item(2)->data(Qt::DisplayPropertyRole)),
-             PropertySheetStringValue(QStringLiteral("New Item")));
-    list->setCurrentRow(3);
-    clickNew();
-    list->setCurrentRow(-1);
-    QCOMPARE(listState(editor), QStringLiteral("A B New Item C New Item "));
-    clickNew();
-    QCOMPARE(listState(editor), QStringLiteral("[New Item] A B New Item C New Item dv"));
-
-    // Up and down move the item and keep it current; a click on a disabled button does
-    // nothing.
-    list->setCurrentRow(4);
-    click("moveListItemUpButton");
-    for (int i = 0; i < 3; ++i)
-        click("moveListItemDownButton");
-    QCOMPARE(listState(editor), QStringLiteral("New Item A B New Item New Item [C] du"));
-
-    // Deleting keeps the row number selected and the pane shows the item now there; deleting
-    // the last row of several selects the new last row; deleting everything leaves no
-    // enabled button and an empty pane.
-    list->setCurrentRow(1);
-    click("deleteListItemButton");
-    QCOMPARE(stringOf(itemProperty("text")->value()).value(), QStringLiteral("B"));
-    list->setCurrentRow(4);
-    click("deleteListItemButton");
-    QCOMPARE(listState(editor), QStringLiteral("New Item B New Item [New Item] du"));
-    while (list->count())
-        click("deleteListItemButton");
-    QCOMPARE(listState(editor), QString());
-    QVERIFY(editor->propertyBrowser()->topLevelItems().isEmpty());
-    clickNew();
-    QCOMPARE(editor->propertyBrowser()->topLevelItems().size(), 8);
-
-    // Renaming in place keeps the value's translation data and reports the display role.
-    QListWidgetItem *item = list->item(0);
-    const PropertySheetStringValue before(QStringLiteral("B"), false, QStringLiteral("dis"),
-                                          QStringLiteral("note"));
-    item->setData(Qt::DisplayPropertyRole, QVariant::fromValue(before));
-    QSignalSpy changed(editor, &ItemListEditor::itemChanged);
-    list->editItem(item);
-    QLineEdit *inPlace = list->findChild<QLineEdit *>();
-    QVERIFY(inPlace);
-    inPlace->selectAll();
-    QTest::keyClicks(inPlace, QStringLiteral("Renamed"));
-    QTest::keyClick(inPlace, Qt::Key_Return);
-    CcTest::settle();
-    PropertySheetStringValue renamed = before;
-    renamed.setValue(QStringLiteral("Renamed"));
-    QCOMPARE(stringOf(item->data(Qt::DisplayPropertyRole)), renamed);
-    QCOMPARE(changed.size(), 1);
-    QCOMPARE(changed.first().mid(0, 2), QVariantList({0, int(Qt::DisplayPropertyRole)}));
-    QCOMPARE(stringOf(changed.first().at(2)), renamed);
-    QCOMPARE(stringOf(itemProperty("text")->value()), renamed);
-}
-
-void TestItemListEditor::reLayoutOnlyWhenTheLineCountChanges()
-{
-    // Enough rows to scroll by pixels: the scroll range follows the rows' heights as soon as
-    // the list is laid out, and is not brought up to date by reading it.
-    QStringList rows;
-    for (int i = 0; i < 30; ++i)
-        rows.append(QStringLiteral("Row %1").arg(i));
-    QListWidget *list = makeEditor(rows)->listWidget();
-    list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
-    QApplication::processEvents();
-    QScrollBar *bar = list->verticalScrollBar();
-    const auto rangeAfter = [&](int role, const QVariant &value) {
-        m_editor->setItemData(role, value);
-        return bar->maximum();
-    };
-    const int oneLine = bar->maximum();
-    QCOMPARE(rangeAfter(Qt::EditRole, QStringLiteral("A longer single line")), oneLine);
-    const int twoLines = rangeAfter(Qt::EditRole, QStringLiteral("Two\nlines"));
-    QVERIFY(twoLines > oneLine);
-    QCOMPARE(rangeAfter(Qt::EditRole, QStringLiteral("Other\ntext")), twoLines);
-    QCOMPARE(rangeAfter(Qt::EditRole, QStringLiteral("One")), oneLine);
-    // A font always lays out.
-    QFont big = list->font();
-    big.setPointSize(list->font().pointSize() * 3);
-    QVERIFY(rangeAfter(Qt::FontRole, big) > oneLine);
-}
-
-void TestItemListEditor::rendersIconsFromTheCache()
-{
-    // An item whose icon is known but not drawn yet gets it when the form's cache reloads,
-    // and the pane shows its icon properties anew.
-    ItemListEditor *editor = makeEditor({"Apple", "Banana"});
-    QListWidgetItem *banana = editor->listWidget()->item(1);
-    banana->setData(Qt::DecorationPropertyRole, CcTest::iconValue(m_pictures.blue));
-    bool iconRepainted = false;
-    connect(editor->propertyManager(), &QtAbstractPropertyManager::propertyChanged, editor,
-            [&](QtProperty *changed) { iconRepainted |= changed == itemProperty("icon"); });
-    emit editor->iconCache()->reloaded();
-    QVERIFY(iconRepainted);
-    const QIcon shown = qvariant_cast<QIcon>(banana->data(Qt::DecorationRole));
-    QCOMPARE(shown.pixmap(16, 16).toImage().pixelColor(8, 8), QColor(Qt::blue));
-}
 
 QTEST_MAIN(TestItemListEditor)
 #include "tst_itemlisteditor.moc"

@@ -4,6 +4,8 @@
 // or a warning says what is left out.
 
 #include "designertestcore.h"
+#include "uixml.h"
+#include "warninglog.h"
 
 #include <QDesignerFormWindowInterface>
 #include <QFile>
@@ -11,30 +13,16 @@
 
 namespace {
 
-QStringList warnings;
-QtMessageHandler previousHandler = nullptr;
-void collect(QtMsgType type, const QMessageLogContext &context, const QString &message)
-{
-    if (type == QtWarningMsg && !message.contains(QLatin1String("propagateSizeHints")))
-        warnings << message;
-    previousHandler(type, context, message);
-}
+using CcTest::itemXml;
+using CcTest::propertyXml;
 
-QString widget(const char *className, const QString &inner)
+// A row of keptOrSaid: a widget of the class holding inner, what the saved form must still
+// hold unless a warning names what is left out.
+void oddForm(const char *row, const char *className, const QString &inner, const char *held,
+             const char *named = "")
 {
-    return QStringLiteral("<widget class=\"%1\" name=\"odd\">%2</widget>\n")
-            .arg(QLatin1String(className), inner);
-}
-
-QString item(const QString &properties)
-{
-    return QStringLiteral("<item>%1</item>").arg(properties);
-}
-
-QString prop(const char *name, const char *value, const char *kind = "string")
-{
-    return QStringLiteral("<property name=\"%1\"><%3>%2</%3></property>")
-            .arg(QLatin1String(name), QLatin1String(value), QLatin1String(kind));
+    QTest::newRow(row) << CcTest::widgetXml(className, "odd", inner) << QString(held)
+                       << QString(named);
 }
 
 } // namespace
@@ -66,37 +54,26 @@ private slots:
     void keptOrSaid_data()
     {
         QTest::addColumn<QString>("body");
-        // What the saved form must still hold, unless a warning names it.
         QTest::addColumn<QString>("held");
         QTest::addColumn<QString>("named");
-        QTest::newRow("unknown item property")
-                << widget("VoCc::OptionButtons", item(prop("text", "A") + prop("colour", "red")))
-                << "red"
-                << "colour";
-        QTest::newRow("lists of unequal length") << widget(
-                "VoCc::OptionRadios",
-                item(prop("text", "A") + prop("data", "1")) + item(prop("toolTip", "only a tip")))
-                                                 << "only a tip"
-                                                 << "";
-        QTest::newRow("empty item")
-                << widget("VoCc::OptionComboBox", item(QString()) + item(prop("text", "B")))
-                << ">B<"
-                << "";
-        QTest::newRow("missing icon") << widget(
-                "VoCc::OptionButtons", item(prop("text", "A") + prop("icon", "/nowhere/x.png")))
-                                      << "/nowhere/x.png"
-                                      << "";
-        QTest::newRow("rows beyond the editor")
-                << widget("VoCc::MatrixPushButtons",
-                          prop("row", "500", "number") + prop("column", "2", "number"))
-                << "<number>500</number>"
-                << "row";
-        QTest::newRow("items on a widget without entries")
-                << widget("VoCc::Pane", item(prop("text", "lost"))) << "lost"
-                << "item";
-        QTest::newRow("unknown widget property")
-                << widget("VoCc::ComboBox", prop("bogus", "7", "number")) << "bogus"
-                << "bogus";
+        const QString textA = propertyXml("text", "A");
+        oddForm("unknown item property", "VoCc::OptionButtons",
+                itemXml(textA + propertyXml("colour", "red")), "red", "colour");
+        oddForm("lists of unequal length", "VoCc::OptionRadios",
+                itemXml(textA + propertyXml("data", "1"))
+                        + itemXml(propertyXml("toolTip", "only a tip")),
+                "only a tip");
+        oddForm("empty item", "VoCc::OptionComboBox",
+                itemXml(QString()) + itemXml(propertyXml("text", "B")), ">B<");
+        oddForm("missing icon", "VoCc::OptionButtons",
+                itemXml(textA + propertyXml("icon", "/nowhere/x.png")), "/nowhere/x.png");
+        oddForm("rows beyond the editor", "VoCc::MatrixPushButtons",
+                propertyXml("row", "500", "number") + propertyXml("column", "2", "number"),
+                "<number>500</number>", "row");
+        oddForm("items on a widget without entries", "VoCc::Pane",
+                itemXml(propertyXml("text", "lost")), "lost", "item");
+        oddForm("unknown widget property", "VoCc::ComboBox", propertyXml("bogus", "7", "number"),
+                "bogus", "bogus");
     }
 
     void keptOrSaid()
@@ -104,13 +81,11 @@ private slots:
         QFETCH(QString, body);
         QFETCH(QString, held);
         QFETCH(QString, named);
-        warnings.clear();
-        previousHandler = qInstallMessageHandler(collect);
+        const CcTest::WarningLog log;
         QDesignerFormWindowInterface *form = CcTest::createFormWindow(CcTest::formXml(body));
         const QString saved = form->contents();
-        qInstallMessageHandler(previousHandler);
         CcTest::closeFormWindow(form);
-        const bool said = !named.isEmpty() && warnings.join(QLatin1Char('\n')).contains(named);
+        const bool said = !named.isEmpty() && log.warnings.join(QLatin1Char('\n')).contains(named);
         QVERIFY2(saved.contains(held) || said, qPrintable(saved));
     }
 };

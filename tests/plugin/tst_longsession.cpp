@@ -9,6 +9,8 @@
 #include "modalanswer.h"
 
 #include <nui/CommonControls/CcComboBox.hpp>
+#include <nui/CommonControls/CcDrawbackBoxGroup.hpp>
+#include <nui/CommonControls/CcMatrixButtons.hpp>
 
 #include <QDesignerFormEditorInterface>
 #include <QDesignerFormWindowCursorInterface>
@@ -18,7 +20,6 @@
 #include <QMutex>
 #include <QPluginLoader>
 #include <QSpinBox>
-#include <QTableWidget>
 #include <QUndoStack>
 #include <QtCore/private/qhooks_p.h>
 #include <QtTest>
@@ -40,6 +41,7 @@ quintptr previousRemove = 0;
 void objectAdded(QObject *object)
 {
     {
+        // Not held while the earlier hook runs: it may make objects of its own.
         QMutexLocker locker(&trackedLock);
         tracked.insert(object);
     }
@@ -71,16 +73,6 @@ QMap<QString, int> countsByClass(const QObjectList &objects)
     return counts;
 }
 
-// The objects by class, as "3 x ClassName, ...".
-QString described(const QObjectList &objects)
-{
-    const QMap<QString, int> counts = countsByClass(objects);
-    QStringList parts;
-    for (auto it = counts.cbegin(); it != counts.cend(); ++it)
-        parts << QStringLiteral("%1 x %2").arg(it.value()).arg(it.key());
-    return parts.join(QStringLiteral(", "));
-}
-
 using Driver = CcTest::ItemDialogDriver;
 
 } // namespace
@@ -89,142 +81,129 @@ class TestLongSession : public QObject
 {
     Q_OBJECT
 private slots:
-    void initTestCase();
-    void cleanupTestCase();
-    void formsLeaveNothingOfOursBehind();
+    void initTestCase()
+    {
+        // Tracking starts before the core exists, so the plug-ins and factories are seen too.
+        previousAdd = qtHookData[QHooks::AddQObject];
+        previousRemove = qtHookData[QHooks::RemoveQObject];
+        qtHookData[QHooks::AddQObject] = reinterpret_cast<quintptr>(&objectAdded);
+        qtHookData[QHooks::RemoveQObject] = reinterpret_cast<quintptr>(&objectRemoved);
+
+        CcTest::usePluginModulesOnly({QStringLiteral(CC_PLUGIN_MODULE)});
+        QVERIFY(CcTest::designerCore());
+        QFile file(QStringLiteral(CC_EXAMPLE_FORM));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        m_formXml = QString::fromUtf8(file.readAll());
+
+        QObject *collection = QPluginLoader(QStringLiteral(CC_PLUGIN_MODULE)).instance();
+        QVERIFY(collection);
+        m_module = sharedObjectOf(&typeid(*collection));
+        m_library = sharedObjectOf(&VoCc::ComboBox::staticMetaObject);
+        QVERIFY(m_module && m_library && m_module != m_library);
+    }
+
+    void cleanupTestCase()
+    {
+        qtHookData[QHooks::AddQObject] = previousAdd;
+        qtHookData[QHooks::RemoveQObject] = previousRemove;
+    }
+
+    void formsLeaveNothingOfOursBehind()
+    {
+        QDesignerFormEditorInterface *core = CcTest::designerCore();
+        QObject *collection = core->pluginInstances().constFirst();
+        QElapsedTimer clock;
+        clock.start();
+        for (int round = 0; round < formCount; ++round) {
+            QDesignerFormWindowInterface *form = CcTest::createFormWindow(m_formXml);
+            editForm(form);
+            if (QTest::currentTestFailed())
+                return;
+            if (round == 0) {
+                // The count sees what a form holds: every widget class of ours, and an extra-info
+                // extension per widget.
+                const QMap<QString, int> onForm = countsByClass(oursAlive());
+                const auto plugins =
+                        qobject_cast<QDesignerCustomWidgetCollectionInterface *>(collection)
+                                ->customWidgets();
+                for (QDesignerCustomWidgetInterface *plugin : plugins)
+                    QVERIFY2(onForm.contains(plugin->name()), qPrintable(plugin->name()));
+                QVERIFY(onForm.value(QStringLiteral("ExtraInfoExtension")) >= plugins.size());
+            }
+            CcTest::closeFormWindow(form);
+            CcTest::settle();
+        }
+        qInfo("%d forms in %lld ms", formCount, clock.elapsed());
+
+        // What stays: the collection and its plug-ins, and the factories the plug-ins registered.
+        QSet<QObject *> permanent = {collection};
+        for (QObject *object : collection->children() + core->extensionManager()->children())
+            permanent.insert(object);
+        const QObjectList left = oursAlive(permanent);
+        QString byClass;
+        QDebug(&byClass) << countsByClass(left);
+        QVERIFY2(left.isEmpty(), qPrintable(byClass));
+    }
 
 private:
     // Our live objects, but for those in except.
-    QObjectList oursAlive(const QSet<QObject *> &except = {}) const;
-    void editForm(QDesignerFormWindowInterface *form);
+    QObjectList oursAlive(const QSet<QObject *> &except = {}) const
+    {
+        QMutexLocker locker(&trackedLock);
+        QObjectList ours;
+        for (QObject *object : qAsConst(tracked)) {
+            const void *origin = sharedObjectOf(&typeid(*object));
+            if ((origin == m_module || origin == m_library) && !except.contains(object))
+                ours << object;
+        }
+        return ours;
+    }
+
+    void editForm(QDesignerFormWindowInterface *form)
+    {
+        // Every widget of ours selected and a property of them all changed.
+        QWidgetList ours;
+        for (QWidget *widget : form->mainContainer()->findChildren<QWidget *>()) {
+            if (form->isManaged(widget)
+                && qstrncmp(widget->metaObject()->className(), "VoCc::", 6) == 0)
+                ours << widget;
+        }
+        QVERIFY(ours.size() >= 44);
+        form->clearSelection(false);
+        for (QWidget *widget : qAsConst(ours))
+            form->selectWidget(widget, true);
+        form->cursor()->setProperty(QStringLiteral("enabled"), false);
+        QVERIFY(!ours.constLast()->isEnabled());
+
+        // Item edits of a list, a page group and a matrix through their context-menu entries.
+        auto addEntry = [](Driver &dialog) {
+            dialog.addRow(QStringLiteral("n"));
+            dialog.typeProperty(QStringLiteral("text"), QStringLiteral("r"));
+        };
+        QWidget *main = form->mainContainer();
+        QVERIFY(CcTest::edit(main->findChild<VoCc::ComboBox *>(), addEntry));
+        QVERIFY(CcTest::edit(main->findChild<VoCc::DrawbackBoxGroup *>(), addEntry));
+        QVERIFY(CcTest::edit(main->findChild<VoCc::MatrixPushButtons *>(), [](Driver &dialog) {
+            dialog.stepTo("rowCounts", dialog.child<QSpinBox>("rowCounts")->value() + 1);
+            dialog.selectCell(0, 0);
+            dialog.typeProperty(QStringLiteral("toolTip"), QStringLiteral("t"));
+        }));
+
+        // The property change, the list, the page group, the matrix with its two counts: all
+        // undone, all redone, saved.
+        QUndoStack *history = form->commandHistory();
+        QCOMPARE(history->count(), 6);
+        history->setIndex(0);
+        QVERIFY(ours.constLast()->isEnabled());
+        history->setIndex(history->count());
+        QVERIFY(!ours.constLast()->isEnabled());
+        QVERIFY(form->contents().contains(QLatin1String("<string>r</string>")));
+    }
 
     const void *m_module = nullptr;
     const void *m_library = nullptr;
     QString m_formXml;
 };
-
-void TestLongSession::initTestCase()
-{
-    // Tracking starts before the core exists, so the plug-ins and factories are seen too.
-    previousAdd = qtHookData[QHooks::AddQObject];
-    previousRemove = qtHookData[QHooks::RemoveQObject];
-    qtHookData[QHooks::AddQObject] = reinterpret_cast<quintptr>(&objectAdded);
-    qtHookData[QHooks::RemoveQObject] = reinterpret_cast<quintptr>(&objectRemoved);
-
-    CcTest::usePluginModulesOnly({QStringLiteral(CC_PLUGIN_MODULE)});
-    QVERIFY(CcTest::designerCore());
-    QFile file(QStringLiteral(CC_EXAMPLE_FORM));
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    m_formXml = QString::fromUtf8(file.readAll());
-
-    QObject *collection = QPluginLoader(QStringLiteral(CC_PLUGIN_MODULE)).instance();
-    QVERIFY(collection);
-    m_module = sharedObjectOf(&typeid(*collection));
-    m_library = sharedObjectOf(&VoCc::ComboBox::staticMetaObject);
-    QVERIFY(m_module && m_library && m_module != m_library);
-}
-
-void TestLongSession::cleanupTestCase()
-{
-    qtHookData[QHooks::AddQObject] = previousAdd;
-    qtHookData[QHooks::RemoveQObject] = previousRemove;
-}
-
-QObjectList TestLongSession::oursAlive(const QSet<QObject *> &except) const
-{
-    QMutexLocker locker(&trackedLock);
-    QObjectList ours;
-    for (QObject *object : qAsConst(tracked)) {
-        const void *origin = sharedObjectOf(&typeid(*object));
-        if ((origin == m_module || origin == m_library) && !except.contains(object))
-            ours << object;
-    }
-    return ours;
-}
-
-void TestLongSession::editForm(QDesignerFormWindowInterface *form)
-{
-    // Every widget of ours selected and a property of them all changed.
-    QWidgetList ours;
-    const QWidgetList children = form->mainContainer()->findChildren<QWidget *>();
-    for (QWidget *widget : children) {
-        if (form->isManaged(widget)
-            && qstrncmp(widget->metaObject()->className(), "VoCc::", 6) == 0)
-            ours << widget;
-    }
-    QVERIFY(ours.size() >= 44);
-    form->clearSelection(false);
-    for (QWidget *widget : qAsConst(ours))
-        form->selectWidget(widget, true);
-    form->cursor()->setProperty(QStringLiteral("enabled"), false);
-    QVERIFY(!ours.constLast()->isEnabled());
-
-    // Item edits of a list, a page group and a matrix through their context-menu entries.
-    auto child = [form](const char *className) {
-        for (QWidget *widget : form->mainContainer()->findChildren<QWidget *>()) {
-            if (qstrcmp(widget->metaObject()->className(), className) == 0)
-                return widget;
-        }
-        return static_cast<QWidget *>(nullptr);
-    };
-    auto addEntry = [](Driver &dialog) {
-        dialog.addRow(QStringLiteral("n"));
-        dialog.typeProperty(QStringLiteral("text"), QStringLiteral("r"));
-    };
-    QVERIFY(CcTest::edit(child("VoCc::ComboBox"), addEntry));
-    QVERIFY(CcTest::edit(child("VoCc::DrawbackBoxGroup"), addEntry));
-    QVERIFY(CcTest::edit(child("VoCc::MatrixPushButtons"), [](Driver &dialog) {
-        auto *rows = dialog.table()->window()->findChild<QSpinBox *>(QStringLiteral("rowCounts"));
-        dialog.stepTo("rowCounts", rows->value() + 1);
-        dialog.selectCell(0, 0);
-        dialog.typeProperty(QStringLiteral("toolTip"), QStringLiteral("t"));
-    }));
-
-    // The property change, the list, the page group, the matrix with its two counts: all
-    // undone, all redone, saved.
-    QUndoStack *history = form->commandHistory();
-    QCOMPARE(history->count(), 6);
-    history->setIndex(0);
-    QVERIFY(ours.constLast()->isEnabled());
-    history->setIndex(history->count());
-    QVERIFY(!ours.constLast()->isEnabled());
-    QVERIFY(form->contents().contains(QLatin1String("<string>r</string>")));
-}
-
-void TestLongSession::formsLeaveNothingOfOursBehind()
-{
-    QDesignerFormEditorInterface *core = CcTest::designerCore();
-    QObject *collection = core->pluginInstances().constFirst();
-    QElapsedTimer clock;
-    clock.start();
-    for (int round = 0; round < formCount; ++round) {
-        QDesignerFormWindowInterface *form = CcTest::createFormWindow(m_formXml);
-        editForm(form);
-        if (QTest::currentTestFailed())
-            return;
-        if (round == 0) {
-            // The count sees what a form holds: every widget class of ours, and an extra-info
-            // extension per widget.
-            const QMap<QString, int> onForm = countsByClass(oursAlive());
-            const auto plugins =
-                    qobject_cast<QDesignerCustomWidgetCollectionInterface *>(collection)
-                            ->customWidgets();
-            for (QDesignerCustomWidgetInterface *plugin : plugins)
-                QVERIFY2(onForm.contains(plugin->name()), qPrintable(plugin->name()));
-            QVERIFY(onForm.value(QStringLiteral("ExtraInfoExtension")) >= plugins.size());
-        }
-        CcTest::closeFormWindow(form);
-        CcTest::settle();
-    }
-    qInfo("%d forms in %lld ms", formCount, clock.elapsed());
-
-    // What stays: the collection and its plug-ins, and the factories the plug-ins registered.
-    QSet<QObject *> permanent = {collection};
-    for (QObject *object : collection->children() + core->extensionManager()->children())
-        permanent.insert(object);
-    const QObjectList left = oursAlive(permanent);
-    QVERIFY2(left.isEmpty(), qPrintable(described(left)));
-}
 
 QTEST_MAIN(TestLongSession)
 #include "tst_longsession.moc"

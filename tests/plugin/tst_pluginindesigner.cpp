@@ -5,8 +5,9 @@
 // that every widget gets.
 
 #include "designertestcore.h"
+#include "pagegroup.h"
+#include "uixml.h"
 
-#include <nui/CommonControls/CcDrawbackBoxGroup.hpp>
 #include <nui/CommonControls/CcMatrixButtons.hpp>
 
 #include <QAbstractButton>
@@ -35,6 +36,8 @@
 #include <QtUiPlugin/QDesignerCustomWidgetInterface>
 
 using namespace qdesigner_internal;
+using CcTest::pagesOf;
+using CcTest::widgetXml;
 
 namespace {
 
@@ -42,62 +45,61 @@ enum DefaultXml { Lf, NoLf, Special };
 
 // What the widget box must show for each plug-in, in the collection's order, written down
 // independently of the plug-in's own table. A special default text is in data/<name>.xml.
+// The class name after "VoCc::", the include file after "nui/CommonControls/", the object name
+// of the standard default text; whether the widget is in the template group and a container.
 struct Widget
 {
-    const char *name; // after "VoCc::"
-    bool templateGroup;
-    const char *includeFile; // after "nui/CommonControls/"
-    bool container;
+    const char *name, *includeFile, *objectName;
+    bool templateGroup, container;
     DefaultXml xml;
-    const char *objectName; // of the standard default text
 };
 
 // clang-format off
 constexpr Widget widgets[] = {
-    {"Angle", true, "Template/CcAngle.hpp", false, Lf, "Angle"},
-    {"CmdButton", true, "Template/CcCmdButton.hpp", false, Lf, "CmdButton"},
-    {"Color", true, "Template/CcColor.hpp", false, Lf, "Color"},
-    {"ColorTransfer", true, "Template/ColorTransfer.hpp", false, Lf, "ColorTransfer"},
-    {"Distance", true, "Template/CcDistance.hpp", false, Lf, "Distance"},
-    {"Entity", true, "Template/CcEntity.hpp", false, Lf, "Entity"},
-    {"EntityList", true, "Template/CcEntityList.hpp", false, Lf, "EntityList"},
-    {"PinEntity", true, "Template/CcPinEntity.hpp", false, Lf, "PinEntity"},
-    {"PinEntityList", true, "Template/CcPinEntityList.hpp", false, Lf, "PinEntityList"},
-    {"FormProxy", false, "CcFormProxy.hpp", false, Lf, "formProxy"},
-    {"Number", true, "Template/CcNumber.hpp", false, Lf, "Number"},
-    {"OptionButtons", true, "template/CcOptionButtons.hpp", false, Lf, "OptionButtons"},
-    {"OptionCheckBox", true, "template/CcOptionCheckBox.hpp", false, Special, nullptr},
-    {"OptionComboBox", true, "template/CcOptionComboBox.hpp", false, Lf, "OptionComboBox"},
-    {"OptionRadios", true, "template/CcOptionRadios.hpp", false, Lf, "OptionRadios"},
-    {"Point", true, "Template/CcPoint.hpp", false, Lf, "Point"},
-    {"Slider", true, "Template/CcSlider.hpp", false, Lf, "Slider"},
-    {"String", true, "Template/CcString.hpp", false, Lf, "String"},
-    {"Window", true, "Template/CcWindow.hpp", false, Lf, "Window"},
-    {"CheckableTextComboBox", false, "CcLineEditEx.hpp", false, Lf, "checkableTextComboBox"},
-    {"ColorButton", false, "CcColorButton.hpp", false, Lf, "colorButton"},
-    {"ColorPanel", false, "CcColorPanel.hpp", false, Lf, "colorPanel"},
-    {"ColorPicker", false, "CcColorPicker.hpp", false, Lf, "colorPicker"},
-    {"ComboBox", false, "CcComboBox.hpp", false, Lf, "comboBox"},
-    {"DrawbackBoxGroup", false, "CcDrawbackBoxGroup.hpp", true, Special, nullptr},
-    {"Form", false, "CcForm.hpp", true, Special, nullptr},
-    {"Line", false, "CcLine.hpp", false, Special, nullptr},
-    {"LineEditBtn", false, "CcLineEditEx.hpp", false, NoLf, "lineEditBtn"},
-    {"LineEditEx", false, "CcLineEditEx.hpp", false, NoLf, "lineEditEx"},
-    {"LineType", false, "CcLineType.hpp", false, Lf, "lineType"},
-    {"LineWidth", false, "CcLineWidth.hpp", false, Lf, "lineWidth"},
-    {"ListView", false, "CcListView.hpp", false, NoLf, "listView"},
-    {"ListWidget", false, "CcListWidget.hpp", false, NoLf, "listWidget"},
-    {"MatrixCheckBoxes", false, "CcMatrixButtons.hpp", false, Lf, "matrixCheckBoxes"},
-    {"MatrixPopButtons", false, "CcMatrixPopButtons.hpp", false, Special, nullptr},
-    {"MatrixPushButtons", false, "CcMatrixButtons.hpp", false, Lf, "matrixPushButtons"},
-    {"MatrixRadioButtons", false, "CcMatrixButtons.hpp", false, Lf, "matrixRadioButtons"},
-    {"Pane", false, "CcPane.hpp", true, Special, nullptr},
-    {"RealNumberEdit", false, "CcRealNumberEdit.hpp", false, Lf, "realNumberEdit"},
-    {"RealNumberSlider", false, "CcRealNumber.hpp", false, NoLf, "realNumberSlider"},
-    {"SelectList", false, "CcSelectList.hpp", false, NoLf, "selectList"},
-    {"TableWidget", false, "CcTableWidget.hpp", false, NoLf, "tableWidget"},
-    {"TextEdit", false, "CcTextEdit.hpp", false, Lf, "TextEdit"},
-    {"TreeView", false, "CcTreeView.hpp", false, NoLf, "treeView"},
+    {"Angle", "Template/CcAngle.hpp", "Angle", true, false, Lf},
+    {"CmdButton", "Template/CcCmdButton.hpp", "CmdButton", true, false, Lf},
+    {"Color", "Template/CcColor.hpp", "Color", true, false, Lf},
+    {"ColorTransfer", "Template/ColorTransfer.hpp", "ColorTransfer", true, false, Lf},
+    {"Distance", "Template/CcDistance.hpp", "Distance", true, false, Lf},
+    {"Entity", "Template/CcEntity.hpp", "Entity", true, false, Lf},
+    {"EntityList", "Template/CcEntityList.hpp", "EntityList", true, false, Lf},
+    {"PinEntity", "Template/CcPinEntity.hpp", "PinEntity", true, false, Lf},
+    {"PinEntityList", "Template/CcPinEntityList.hpp", "PinEntityList", true, false, Lf},
+    {"FormProxy", "CcFormProxy.hpp", "formProxy", false, false, Lf},
+    {"Number", "Template/CcNumber.hpp", "Number", true, false, Lf},
+    {"OptionButtons", "template/CcOptionButtons.hpp", "OptionButtons", true, false, Lf},
+    {"OptionCheckBox", "template/CcOptionCheckBox.hpp", nullptr, true, false, Special},
+    {"OptionComboBox", "template/CcOptionComboBox.hpp", "OptionComboBox", true, false, Lf},
+    {"OptionRadios", "template/CcOptionRadios.hpp", "OptionRadios", true, false, Lf},
+    {"Point", "Template/CcPoint.hpp", "Point", true, false, Lf},
+    {"Slider", "Template/CcSlider.hpp", "Slider", true, false, Lf},
+    {"String", "Template/CcString.hpp", "String", true, false, Lf},
+    {"Window", "Template/CcWindow.hpp", "Window", true, false, Lf},
+    {"CheckableTextComboBox", "CcLineEditEx.hpp", "checkableTextComboBox", false, false, Lf},
+    {"ColorButton", "CcColorButton.hpp", "colorButton", false, false, Lf},
+    {"ColorPanel", "CcColorPanel.hpp", "colorPanel", false, false, Lf},
+    {"ColorPicker", "CcColorPicker.hpp", "colorPicker", false, false, Lf},
+    {"ComboBox", "CcComboBox.hpp", "comboBox", false, false, Lf},
+    {"DrawbackBoxGroup", "CcDrawbackBoxGroup.hpp", nullptr, false, true, Special},
+    {"Form", "CcForm.hpp", nullptr, false, true, Special},
+    {"Line", "CcLine.hpp", nullptr, false, false, Special},
+    {"LineEditBtn", "CcLineEditEx.hpp", "lineEditBtn", false, false, NoLf},
+    {"LineEditEx", "CcLineEditEx.hpp", "lineEditEx", false, false, NoLf},
+    {"LineType", "CcLineType.hpp", "lineType", false, false, Lf},
+    {"LineWidth", "CcLineWidth.hpp", "lineWidth", false, false, Lf},
+    {"ListView", "CcListView.hpp", "listView", false, false, NoLf},
+    {"ListWidget", "CcListWidget.hpp", "listWidget", false, false, NoLf},
+    {"MatrixCheckBoxes", "CcMatrixButtons.hpp", "matrixCheckBoxes", false, false, Lf},
+    {"MatrixPopButtons", "CcMatrixPopButtons.hpp", nullptr, false, false, Special},
+    {"MatrixPushButtons", "CcMatrixButtons.hpp", "matrixPushButtons", false, false, Lf},
+    {"MatrixRadioButtons", "CcMatrixButtons.hpp", "matrixRadioButtons", false, false, Lf},
+    {"Pane", "CcPane.hpp", nullptr, false, true, Special},
+    {"RealNumberEdit", "CcRealNumberEdit.hpp", "realNumberEdit", false, false, Lf},
+    {"RealNumberSlider", "CcRealNumber.hpp", "realNumberSlider", false, false, NoLf},
+    {"SelectList", "CcSelectList.hpp", "selectList", false, false, NoLf},
+    {"TableWidget", "CcTableWidget.hpp", "tableWidget", false, false, NoLf},
+    {"TextEdit", "CcTextEdit.hpp", "TextEdit", false, false, Lf},
+    {"TreeView", "CcTreeView.hpp", "treeView", false, false, NoLf},
 };
 // clang-format on
 constexpr int widgetCount = int(std::size(widgets));
@@ -140,32 +142,11 @@ public:
     }
 };
 
-QString widgetXml(const char *className, const char *name, const QString &inner = QString())
-{
-    return QStringLiteral("<widget class=\"%1\" name=\"%2\">%3</widget>\n")
-            .arg(QLatin1String(className), QLatin1String(name), inner);
-}
-
-QWidget *formChild(QDesignerFormWindowInterface *form, const char *name)
-{
-    return form->mainContainer()->findChild<QWidget *>(QLatin1String(name));
-}
-
 // A form holding a page group with the given pages, declared as Designer's widget box does.
 QString groupForm(const QString &pages)
 {
     return CcTest::formXml(widgetXml("VoCc::DrawbackBoxGroup", "group", pages),
-                           QStringLiteral("<customwidget><class>VoCc::DrawbackBoxGroup</class>"
-                                          "<extends>QWidget</extends>"
-                                          "<addpagemethod>addPage</addpagemethod></customwidget>"));
-}
-
-QWidgetList pagesOf(const VoCc::DrawbackBoxGroup *group)
-{
-    QWidgetList pages;
-    for (int i = 0; i < group->count(); ++i)
-        pages << group->widget(i);
-    return pages;
+                           CcTest::pageGroupDeclaration());
 }
 
 // Two of our widgets next to a plain Qt button, a layout and an action.
@@ -185,11 +166,11 @@ class TestPluginInDesigner : public QObject
     QObject *m_collection = nullptr;
     QList<QDesignerCustomWidgetInterface *> m_widgets;
 
-    QObject *pluginObject(const char *pluginClass) const
+    QDesignerCustomWidgetInterface *plugin(const char *pluginClass) const
     {
         for (QObject *plugin : m_collection->children()) {
             if (qstrcmp(plugin->metaObject()->className(), pluginClass) == 0)
-                return plugin;
+                return qobject_cast<QDesignerCustomWidgetInterface *>(plugin);
         }
         return nullptr;
     }
@@ -238,14 +219,12 @@ private slots:
         const QString name = className(w);
         QCOMPARE(plugin->name(), name);
         QCOMPARE(plugin->group(),
-                 w.templateGroup ? QStringLiteral("Tarn Template Widgets")
-                                 : QStringLiteral("Tarn Widgets"));
+                 QLatin1String(w.templateGroup ? "Tarn Template Widgets" : "Tarn Widgets"));
         QCOMPARE(plugin->includeFile(),
                  QLatin1String("nui/CommonControls/") + QLatin1String(w.includeFile));
         QCOMPARE(plugin->isContainer(), w.container);
-        QCOMPARE(plugin->toolTip(),
-                 name == QLatin1String("VoCc::Pane") ? QStringLiteral("Tarn Collapsible Pane")
-                                                     : QString());
+        const bool pane = name == QLatin1String("VoCc::Pane");
+        QCOMPARE(plugin->toolTip(), pane ? QStringLiteral("Tarn Collapsible Pane") : QString());
         // The page group answers with a null text, the others with an empty one.
         QCOMPARE(plugin->toolTip().isNull(), name == QLatin1String("VoCc::DrawbackBoxGroup"));
         QCOMPARE(plugin->domXml(), expectedXml(w));
@@ -254,9 +233,9 @@ private slots:
     void propertyEditsRepaintOncePerCreatedWidget()
     {
         QDesignerPropertyEditorInterface *editor = CcTest::designerCore()->propertyEditor();
-        QObject *plugin = pluginObject("ListViewPlugin");
-        QVERIFY(plugin);
-        countedObject = plugin;
+        QDesignerCustomWidgetInterface *listViews = plugin("ListViewPlugin");
+        QVERIFY(listViews);
+        countedObject = dynamic_cast<QObject *>(listViews);
         static QSignalSpyCallbackSet hooks = {nullptr, countSlot, nullptr, nullptr};
         qt_register_signal_spy_callbacks(&hooks);
         const auto unhook = qScopeGuard([] { qt_register_signal_spy_callbacks(nullptr); });
@@ -270,13 +249,12 @@ private slots:
         QDesignerFormWindowInterface *form = CcTest::createFormWindow(
                 CcTest::formXml(widgetXml("VoCc::ListView", "a") + widgetXml("VoCc::ListView", "b")
                                 + widgetXml("VoCc::ListView", "c")));
-        editor->setObject(formChild(form, "a"));
+        editor->setObject(CcTest::formChild(form, "a"));
         QCOMPARE(slotRunsPerEdit(), before + 3);
 
         // Each run repaints the edited list view. A form window is never shown here, so a
         // shown list view stands in for the edited one.
-        QScopedPointer<QWidget> shown(
-                qobject_cast<QDesignerCustomWidgetInterface *>(plugin)->createWidget(nullptr));
+        QScopedPointer<QWidget> shown(listViews->createWidget(nullptr));
         shown->show();
         QVERIFY(QTest::qWaitForWindowExposed(shown.data()));
         editor->setObject(shown.data());
@@ -301,7 +279,7 @@ private slots:
         const char *names[] = {"outer", "inner", "checks", "radios"};
         QList<QAbstractButton *> firstButtons;
         for (const char *name : names) {
-            auto *matrix = qobject_cast<VoCc::AbstractMatrixOptions *>(formChild(form, name));
+            auto *matrix = CcTest::formChild<VoCc::AbstractMatrixOptions>(form, name);
             QVERIFY2(matrix, name);
             matrix->setTextList({QStringLiteral("one")});
             // A stale button text shows whether the list was applied again.
@@ -329,7 +307,7 @@ private slots:
     {
         QDesignerFormWindowInterface *form = CcTest::createFormWindow(
                 groupForm(widgetXml("QWidget", "p0") + widgetXml("QWidget", "p1")));
-        auto *group = qobject_cast<VoCc::DrawbackBoxGroup *>(formChild(form, "group"));
+        auto *group = CcTest::formChild<VoCc::DrawbackBoxGroup>(form, "group");
         QVERIFY(group);
         QCOMPARE(group->count(), 2);
         // Pages loaded through addPage are not managed yet; Designer selects managed widgets
@@ -357,9 +335,7 @@ private slots:
         // Outside any form (a preview) a page switch or a title edit selects nothing.
         QWidget holder;
         auto *preview = static_cast<VoCc::DrawbackBoxGroup *>(
-                qobject_cast<QDesignerCustomWidgetInterface *>(
-                        pluginObject("DrawbackBoxGroupPlugin"))
-                        ->createWidget(&holder));
+                plugin("DrawbackBoxGroupPlugin")->createWidget(&holder));
         preview->addPage(new QWidget);
         preview->addPage(new QWidget);
         preview->setCurrentIndex(1);
@@ -371,7 +347,7 @@ private slots:
     {
         QDesignerFormWindowInterface *form =
                 CcTest::createFormWindow(groupForm(widgetXml("QWidget", "page")));
-        auto *group = qobject_cast<VoCc::DrawbackBoxGroup *>(formChild(form, "group"));
+        auto *group = CcTest::formChild<VoCc::DrawbackBoxGroup>(form, "group");
         QVERIFY(group);
         auto *container = qt_extension<QDesignerContainerExtension *>(
                 form->core()->extensionManager(), group);
@@ -439,14 +415,14 @@ private slots:
         QDesignerFormEditorInterface *core = CcTest::designerCore();
         QDesignerFormWindowInterface *form = CcTest::createFormWindow(formWithExtras);
         QWidget *main = form->mainContainer();
-        QList<QWidget *> widgets = main->findChildren<QWidget *>();
-        widgets.prepend(main);
+        const auto extraInfo = [core](QObject *object) {
+            return qt_extension<QDesignerExtraInfoExtension *>(core->extensionManager(), object);
+        };
         int served = 0;
-        for (QWidget *widget : widgets) {
+        for (QWidget *widget : QWidgetList({main}) + main->findChildren<QWidget *>()) {
             if (!form->isManaged(widget))
                 continue;
-            auto *extension =
-                    qt_extension<QDesignerExtraInfoExtension *>(core->extensionManager(), widget);
+            QDesignerExtraInfoExtension *extension = extraInfo(widget);
             QVERIFY2(extension, qPrintable(widget->objectName()));
             QCOMPARE(extension->widget(), widget);
             QCOMPARE(extension->core(), core);
@@ -455,11 +431,8 @@ private slots:
         QCOMPARE(served, 5); // Form, holder, options, button, matrix
 
         // An action and a layout are not widgets.
-        QVERIFY(!qt_extension<QDesignerExtraInfoExtension *>(
-                core->extensionManager(),
-                main->findChild<QAction *>(QStringLiteral("openAction"))));
-        QVERIFY(!qt_extension<QDesignerExtraInfoExtension *>(
-                core->extensionManager(), main->findChild<QLayout *>(QStringLiteral("column"))));
+        QVERIFY(!extraInfo(main->findChild<QAction *>(QStringLiteral("openAction"))));
+        QVERIFY(!extraInfo(main->findChild<QLayout *>(QStringLiteral("column"))));
 
         CcTest::closeFormWindow(form);
     }

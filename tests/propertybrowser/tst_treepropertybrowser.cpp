@@ -8,8 +8,8 @@
 #include "qtvariantproperty.h"
 
 #include <QCheckBox>
-#include <QComboBox>
 #include <QColorDialog>
+#include <QComboBox>
 #include <QFontDialog>
 #include <QHeaderView>
 #include <QKeySequenceEdit>
@@ -99,320 +99,308 @@ class TestTreePropertyBrowser : public QObject
 {
     Q_OBJECT
 private slots:
-    void rowsFollowProperties();
-    void rowDisplay();
-    void editInPlace_data();
-    void editInPlace();
-    void editorsAndDialogs();
-    void splitterAndResizeMode();
-    void sharedProperty();
-    void deletionOrders_data();
-    void deletionOrders();
-};
-
-void TestTreePropertyBrowser::rowsFollowProperties()
-{
-    Pane pane;
-    QtTreePropertyBrowser *browser = pane.browser.get();
-    QTreeWidget *tree = treeOf(browser);
-    QtVariantProperty *a = pane.manager->addProperty(QMetaType::Int, QStringLiteral("a"));
-    QtVariantProperty *b = pane.add(QMetaType::Int, "b");
-    QtVariantProperty *c = pane.manager->addProperty(QMetaType::Int, QStringLiteral("c"));
-    QVERIFY(!browser->addProperty(b)); // once only
-    QtBrowserItem *itemA = browser->insertProperty(a, nullptr);
-    QtBrowserItem *itemB = browser->topLevelItem(b);
-    QtBrowserItem *itemC = browser->insertProperty(c, b);
-    // Only after a property the browser shows.
-    QtVariantProperty *notShown = pane.manager->addProperty(QMetaType::Int);
-    QVERIFY(!browser->insertProperty(pane.manager->addProperty(QMetaType::Int), notShown));
-    QCOMPARE(browser->topLevelItems(), QList<QtBrowserItem *>({itemA, itemB, itemC}));
-    QCOMPARE(tree->topLevelItem(0)->text(0) + tree->topLevelItem(1)->text(0)
-                     + tree->topLevelItem(2)->text(0),
-             QStringLiteral("abc"));
-    browser->clear();
-
-    // Sub-properties follow their parents; a property under two parents shows twice.
-    QtVariantProperty *group = pane.add(QtVariantPropertyManager::groupTypeId(), "group");
-    QtVariantProperty *other = pane.add(QtVariantPropertyManager::groupTypeId(), "other");
-    group->addSubProperty(c);
-    group->insertSubProperty(b, nullptr);
-    group->insertSubProperty(a, b);
-    other->addSubProperty(b);
-    QTreeWidgetItem *groupRow = tree->topLevelItem(0);
-    QCOMPARE(groupRow->child(0)->text(0) + groupRow->child(1)->text(0), QStringLiteral("ba"));
-    QCOMPARE(browser->items(b).size(), 2);
-    QCOMPARE(rows(browser, "b").size(), 2);
-    group->removeSubProperty(c);
-    delete b;
-    QCOMPARE(groupRow->childCount(), 1);
-    QCOMPARE(tree->topLevelItem(1)->childCount(), 0);
-}
-
-void TestTreePropertyBrowser::rowDisplay()
-{
-    Pane pane;
-    QtTreePropertyBrowser *browser = pane.browser.get();
-    QtVariantProperty *text = pane.add(QMetaType::QString, "text");
-    QtVariantProperty *font = pane.add(QMetaType::QFont, "font");
-    pane.add(QtVariantPropertyManager::groupTypeId(), "group");
-    QTreeWidgetItem *textRow = rows(browser, "text").value(0);
-    QTreeWidgetItem *fontRow = rows(browser, "font").value(0);
-    QTreeWidgetItem *groupRow = rows(browser, "group").value(0);
-
-    text->setToolTip(QStringLiteral("The caption"));
-    QCOMPARE(textRow->toolTip(0), QStringLiteral("The caption"));
-
-    // Modified: a bold name, that only changes the weight of the browser's font.
-    text->setModified(true);
-    QVERIFY(textRow->font(0).bold());
-    QCOMPARE(CcQt::fontResolveMask(textRow->font(0)), uint(QFont::WeightResolved));
-
-    // Disabled: greyed and not editable; enabled again, the rows below are too.
-    font->setEnabled(false);
-    QVERIFY(!(fontRow->flags() & Qt::ItemIsEnabled));
-    font->setEnabled(true);
-    QVERIFY(fontRow->child(2)->flags() & Qt::ItemIsEnabled);
-
-    // A group has no value: one cell across the row, darker when marked.
-    QVERIFY(groupRow->isFirstColumnSpanned());
-    QVERIFY(!(groupRow->flags() & Qt::ItemIsEditable));
-    browser->setPropertiesWithoutValueMarked(true);
-    QCOMPARE(groupRow->background(0).color(), browser->palette().color(QPalette::Dark));
-
-    // Background colours are inherited by the items below.
-    browser->setBackgroundColor(browser->topLevelItem(font), Qt::yellow);
-    QCOMPARE(fontRow->child(0)->background(1).color(), QColor(Qt::yellow));
-}
-
-void TestTreePropertyBrowser::editInPlace_data()
-{
-    QTest::addColumn<int>("type");
-    // How the editor opens (a click on the "value" or the "name", or a key), what is typed,
-    // and how the edit ends (a key, or "leave": a click on the name of the row above).
-    QTest::addColumn<QString>("steps");
-
-    const int string = QMetaType::QString;
-    QTest::newRow("text, Escape") << string << "Enter Abandoned Escape";
-    QTest::newRow("text, left") << string << "F2 Left leave";
-    QTest::newRow("int") << int(QMetaType::Int) << "name 77 Enter";
-}
-
-void TestTreePropertyBrowser::editInPlace()
-{
-    QFETCH(int, type);
-    QFETCH(QString, steps);
-    const QStringList step = steps.split(QLatin1Char(' '));
-    const QString open = step.at(0);
-    const char *editorClass = type == QMetaType::Int ? "QSpinBox" : "QLineEdit";
-
-    Pane pane;
-    QtTreePropertyBrowser *browser = pane.browser.get();
-    QtBrowserItem *above = browser->topLevelItem(pane.add(QMetaType::QString, "above"));
-    QtVariantProperty *property = pane.add(type, "p");
-    const QString before = property->valueText();
-    pane.show();
-    int written = 0;
-    connect(pane.manager.get(), &QtVariantPropertyManager::valueChanged, this,
-            [&written] { ++written; });
-    if (open == QLatin1String("value") || open == QLatin1String("name")) {
-        openEditor(browser, "p", open == QLatin1String("value"));
-    } else {
-        // Moving with the keyboard opens no editor; Enter and F2 do, as in any view.
-        browser->setCurrentItem(above);
-        treeOf(browser)->setFocus();
-        QTest::keyClick(treeOf(browser), Qt::Key_Down);
-        QVERIFY(!currentEditor(browser));
-        QTest::keyClick(treeOf(browser), open == QLatin1String("F2") ? Qt::Key_F2 : Qt::Key_Return);
-    }
-    QPointer<QWidget> editor = currentEditor(browser);
-    QVERIFY(editor);
-    QCOMPARE(browser->currentItem(), browser->topLevelItem(property));
-    QVERIFY2(editor->inherits(editorClass), editor->metaObject()->className());
-
-    QTRY_VERIFY(editor->hasFocus());
-    QVERIFY(QMetaObject::invokeMethod(editor, "selectAll"));
-    QTest::keyClicks(editor, step.at(1));
-    QCOMPARE(written, 0); // nothing is written while typing
-    if (step.at(2) == QLatin1String("leave")) {
-        // A click on a name edits that row's value.
-        QVERIFY(qobject_cast<QLineEdit *>(openEditor(browser, "above", 0)));
-        QTRY_VERIFY(!editor);
-    } else {
-        QTest::keyClick(editor,
-                        step.at(2) == QLatin1String("Enter") ? Qt::Key_Return : Qt::Key_Escape);
-        QTest::qWait(1);
-    }
-    const QString text = step.at(2) == QLatin1String("Escape") ? before : step.at(1);
-    QCOMPARE(rowValue(browser, "p"), text);
-}
-
-void TestTreePropertyBrowser::editorsAndDialogs()
-{
-    Pane pane;
-    QtTreePropertyBrowser *browser = pane.browser.get();
-    QtVariantProperty *number = pane.add(QMetaType::Int, "number", 5);
-    QtVariantProperty *font = pane.add(QMetaType::QFont, "font");
-    QtVariantProperty *shortcut = pane.add(QMetaType::QKeySequence, "shortcut");
-    pane.add(QMetaType::QColor, "color", QColor(Qt::red));
-    pane.add(QtVariantPropertyManager::enumTypeId(), "choice")
-            ->setAttribute(QStringLiteral("enumNames"), QStringList({"Red", "Green"}));
-    pane.show();
-
-    // Attributes and the values they clamp reach an open editor.
-    auto *spin = qobject_cast<QSpinBox *>(openEditor(browser, "number"));
-    QVERIFY(spin);
-    number->setAttribute(QStringLiteral("maximum"), 4);
-    QCOMPARE(spin->maximum(), 4);
-    QCOMPARE(spin->value(), 4);
-    auto *combo = qobject_cast<QComboBox *>(openEditor(browser, "choice"));
-    QVERIFY(combo);
-    combo->setCurrentIndex(1);
-    QCOMPARE(rowValue(browser, "choice"), QStringLiteral("Green"));
-
-    // A sub-property editor changes the parent; a click anywhere in a check cell toggles.
-    auto *bold = qobject_cast<QCheckBox *>(openEditor(browser, "Bold"));
-    QVERIFY(bold);
-    QTest::mouseClick(bold, Qt::LeftButton, {}, QPoint(bold->width() - 4, bold->height() / 2));
-    QVERIFY(font->value().value<QFont>().bold());
-    QCOMPARE(rowValue(browser, "Bold"), QStringLiteral("True"));
-
-    QWidget *keys = openEditor(browser, "shortcut");
-    QVERIFY(qobject_cast<QKeySequenceEdit *>(keys));
-    QTRY_VERIFY(keys->hasFocus() || keys->isAncestorOf(QApplication::focusWidget()));
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_K, Qt::ControlModifier);
-    // The key sequence is taken once the user pauses.
-    const QKeySequence ctrlK(Qt::CTRL | Qt::Key_K);
-    QTRY_COMPARE(shortcut->value().value<QKeySequence>(), ctrlK);
-    QCOMPARE(rowValue(browser, "shortcut"), ctrlK.toString(QKeySequence::NativeText));
-
-    // Dialogs open on the current value; a cancelled one changes nothing.
-    for (const bool accept : {true, false}) {
-        QColor shown;
-        QVERIFY(answerDialog<QColorDialog>(
-                browser, "color",
-                [&](QColorDialog *dialog) {
-                    shown = dialog->currentColor();
-                    dialog->setCurrentColor(accept ? Qt::blue : Qt::green);
-                },
-                accept));
-        QCOMPARE(shown, QColor(accept ? Qt::red : Qt::blue));
-        QCOMPARE(rowValue(browser, "color"), QStringLiteral("[0, 0, 255] (255)"));
-    }
-    // A font from the dialog shows in the rows below.
-    QVERIFY(answerDialog<QFontDialog>(browser, "font", [](QFontDialog *dialog) {
-        QFont chosen = dialog->currentFont();
-        chosen.setPointSize(31);
-        chosen.setUnderline(true);
-        dialog->setCurrentFont(chosen);
-    }));
-    QCOMPARE(rowValue(browser, "Point Size"), QStringLiteral("31"));
-    QCOMPARE(rowValue(browser, "Underline"), QStringLiteral("True"));
-}
-
-void TestTreePropertyBrowser::splitterAndResizeMode()
-{
-    Pane pane;
-    QtTreePropertyBrowser *browser = pane.browser.get();
-    pane.add(QMetaType::QString, "name", QStringLiteral("v"));
-    // Set before the browser is shown (as an item editor's pane sets it), the position holds
-    // once it is, and through resizes; the value column takes the rest.
-    browser->setResizeMode(QtTreePropertyBrowser::Interactive);
-    browser->setSplitterPosition(150);
-    pane.show();
-    QCOMPARE(browser->splitterPosition(), 150);
-    browser->resize(500, 400);
-    QTRY_COMPARE(browser->width(), 500);
-    QHeaderView *header = treeOf(browser)->header();
-    const int width = treeOf(browser)->viewport()->width();
-    QTRY_COMPARE(header->sectionSize(1), width - 150);
-    QCOMPARE(browser->splitterPosition(), 150);
-
-    // The user drags the column border.
-    const int border = header->sectionViewportPosition(1);
-    const int y = header->height() / 2;
-    QTest::mousePress(header->viewport(), Qt::LeftButton, {}, QPoint(border - 1, y));
-    QMouseEvent move(QEvent::MouseMove, QPointF(border + 59, y), Qt::LeftButton, Qt::LeftButton,
-                     Qt::NoModifier);
-    QApplication::sendEvent(header->viewport(), &move);
-    QTest::mouseRelease(header->viewport(), Qt::LeftButton, {}, QPoint(border + 59, y));
-    QCOMPARE(browser->splitterPosition(), 210);
-}
-
-void TestTreePropertyBrowser::sharedProperty()
-{
-    Pane one;
-    QtTreePropertyBrowser second;
-    second.setFactoryForManager<QtVariantPropertyManager>(one.manager.get(), one.factory.get());
-    QtTreePropertyBrowser *first = one.browser.get();
-    QtVariantProperty *text = one.add(QMetaType::QString, "text");
-    QtVariantProperty *font = one.add(QMetaType::QFont, "font");
-    second.addProperty(text);
-    second.addProperty(font);
-
-    one.show();
-    auto *editor = qobject_cast<QLineEdit *>(openEditor(first, "text"));
-    QVERIFY(editor);
-    QTRY_VERIFY(editor->hasFocus());
-    QTest::keyClicks(editor, QStringLiteral("shared"));
-    QTest::keyClick(editor, Qt::Key_Return);
-    QCOMPARE(rowValue(&second, "text"), QStringLiteral("shared"));
-
-    first->removeProperty(text);
-    delete font;
-    QCOMPARE(treeOf(first)->topLevelItemCount(), 0);
-    QCOMPARE(treeOf(&second)->topLevelItemCount(), 1);
-
-    // Unsetting the factory in one browser leaves the other one editing.
-    first->addProperty(text);
-    first->unsetFactoryForManager(one.manager.get());
-    QVERIFY(!openEditor(first, "text"));
-    second.show();
-    QApplication::setActiveWindow(&second);
-    QVERIFY(QTest::qWaitForWindowActive(&second));
-    QVERIFY(qobject_cast<QLineEdit *>(openEditor(&second, "text")));
-}
-
-void TestTreePropertyBrowser::deletionOrders_data()
-{
-    QTest::addColumn<QString>("order"); // manager, factory, browser
-    for (const char *order : {"mfb", "mbf", "fmb", "fbm", "bmf", "bfm"})
-        QTest::newRow(order) << QString::fromLatin1(order);
-}
-
-void TestTreePropertyBrowser::deletionOrders()
-{
-    QFETCH(QString, order);
-    Pane pane;
-    QtVariantProperty *text = pane.add(QMetaType::QString, "text");
-    pane.add(QMetaType::QFont, "font");
-    pane.show();
-    QPointer<QWidget> editor = openEditor(pane.browser.get(), "text");
-    QVERIFY(editor);
-    QTest::keyClicks(editor, QStringLiteral("typed"));
-
-    for (const QChar gone : order) {
-        if (gone == QLatin1Char('m'))
-            pane.manager.reset();
-        else if (gone == QLatin1Char('f'))
-            pane.factory.reset();
-        else
-            pane.browser.reset();
+    void rowsFollowProperties()
+    {
+        Pane pane;
         QtTreePropertyBrowser *browser = pane.browser.get();
-        if (!pane.manager && browser) {
-            QVERIFY(browser->topLevelItems().isEmpty());
-            QCOMPARE(treeOf(browser)->topLevelItemCount(), 0);
+        QTreeWidget *tree = treeOf(browser);
+        QtVariantProperty *a = pane.manager->addProperty(QMetaType::Int, QStringLiteral("a"));
+        QtVariantProperty *b = pane.add(QMetaType::Int, "b");
+        QtVariantProperty *c = pane.manager->addProperty(QMetaType::Int, QStringLiteral("c"));
+        QVERIFY(!browser->addProperty(b)); // once only
+        QtBrowserItem *itemA = browser->insertProperty(a, nullptr);
+        QtBrowserItem *itemB = browser->topLevelItem(b);
+        QtBrowserItem *itemC = browser->insertProperty(c, b);
+        // Only after a property the browser shows.
+        QtVariantProperty *notShown = pane.manager->addProperty(QMetaType::Int);
+        QVERIFY(!browser->insertProperty(pane.manager->addProperty(QMetaType::Int), notShown));
+        QCOMPARE(browser->topLevelItems(), QList<QtBrowserItem *>({itemA, itemB, itemC}));
+        QCOMPARE(tree->topLevelItem(0)->text(0) + tree->topLevelItem(1)->text(0)
+                         + tree->topLevelItem(2)->text(0),
+                 QStringLiteral("abc"));
+        browser->clear();
+
+        // Sub-properties follow their parents; a property under two parents shows twice.
+        QtVariantProperty *group = pane.add(QtVariantPropertyManager::groupTypeId(), "group");
+        QtVariantProperty *other = pane.add(QtVariantPropertyManager::groupTypeId(), "other");
+        group->addSubProperty(c);
+        group->insertSubProperty(b, nullptr);
+        group->insertSubProperty(a, b);
+        other->addSubProperty(b);
+        QTreeWidgetItem *groupRow = tree->topLevelItem(0);
+        QCOMPARE(groupRow->child(0)->text(0) + groupRow->child(1)->text(0), QStringLiteral("ba"));
+        QCOMPARE(browser->items(b).size(), 2);
+        QCOMPARE(rows(browser, "b").size(), 2);
+        group->removeSubProperty(c);
+        delete b;
+        QCOMPARE(groupRow->childCount(), 1);
+        QCOMPARE(tree->topLevelItem(1)->childCount(), 0);
+    }
+
+    void rowDisplay()
+    {
+        Pane pane;
+        QtTreePropertyBrowser *browser = pane.browser.get();
+        QtVariantProperty *text = pane.add(QMetaType::QString, "text");
+        QtVariantProperty *font = pane.add(QMetaType::QFont, "font");
+        pane.add(QtVariantPropertyManager::groupTypeId(), "group");
+        QTreeWidgetItem *textRow = rows(browser, "text").value(0);
+        QTreeWidgetItem *fontRow = rows(browser, "font").value(0);
+        QTreeWidgetItem *groupRow = rows(browser, "group").value(0);
+
+        text->setToolTip(QStringLiteral("The caption"));
+        QCOMPARE(textRow->toolTip(0), QStringLiteral("The caption"));
+
+        // Modified: a bold name, that only changes the weight of the browser's font.
+        text->setModified(true);
+        QVERIFY(textRow->font(0).bold());
+        QCOMPARE(CcQt::fontResolveMask(textRow->font(0)), uint(QFont::WeightResolved));
+
+        // Disabled: greyed and not editable; enabled again, the rows below are too.
+        font->setEnabled(false);
+        QVERIFY(!(fontRow->flags() & Qt::ItemIsEnabled));
+        font->setEnabled(true);
+        QVERIFY(fontRow->child(2)->flags() & Qt::ItemIsEnabled);
+
+        // A group has no value: one cell across the row, darker when marked.
+        QVERIFY(groupRow->isFirstColumnSpanned() && !(groupRow->flags() & Qt::ItemIsEditable));
+        browser->setPropertiesWithoutValueMarked(true);
+        QCOMPARE(groupRow->background(0).color(), browser->palette().color(QPalette::Dark));
+
+        // Background colours are inherited by the items below.
+        browser->setBackgroundColor(browser->topLevelItem(font), Qt::yellow);
+        QCOMPARE(fontRow->child(0)->background(1).color(), QColor(Qt::yellow));
+    }
+
+    void editInPlace_data()
+    {
+        QTest::addColumn<int>("type");
+        // How the editor opens (a click on the "value" or the "name", or a key), what is typed,
+        // and how the edit ends (a key, or "leave": a click on the name of the row above).
+        QTest::addColumn<QString>("steps");
+
+        const int string = QMetaType::QString;
+        QTest::newRow("text, Escape") << string << "Enter Abandoned Escape";
+        QTest::newRow("text, left") << string << "F2 Left leave";
+        QTest::newRow("int") << int(QMetaType::Int) << "name 77 Enter";
+    }
+
+    void editInPlace()
+    {
+        QFETCH(int, type);
+        QFETCH(QString, steps);
+        const QStringList step = steps.split(QLatin1Char(' '));
+        const QString open = step.at(0);
+        const char *editorClass = type == QMetaType::Int ? "QSpinBox" : "QLineEdit";
+
+        Pane pane;
+        QtTreePropertyBrowser *browser = pane.browser.get();
+        QtBrowserItem *above = browser->topLevelItem(pane.add(QMetaType::QString, "above"));
+        QtVariantProperty *property = pane.add(type, "p");
+        const QString before = property->valueText();
+        pane.show();
+        int written = 0;
+        connect(pane.manager.get(), &QtVariantPropertyManager::valueChanged, this,
+                [&written] { ++written; });
+        if (open == QLatin1String("value") || open == QLatin1String("name")) {
+            openEditor(browser, "p", open == QLatin1String("value"));
+        } else {
+            // Moving with the keyboard opens no editor; Enter and F2 do, as in any view.
+            browser->setCurrentItem(above);
+            treeOf(browser)->setFocus();
+            QTest::keyClick(treeOf(browser), Qt::Key_Down);
+            QVERIFY(!currentEditor(browser));
+            QTest::keyClick(treeOf(browser),
+                            open == QLatin1String("F2") ? Qt::Key_F2 : Qt::Key_Return);
         }
-        if (!pane.manager || !browser)
+        QPointer<QWidget> editor = currentEditor(browser);
+        QVERIFY(editor);
+        QCOMPARE(browser->currentItem(), browser->topLevelItem(property));
+        QVERIFY2(editor->inherits(editorClass), editor->metaObject()->className());
+
+        QTRY_VERIFY(editor->hasFocus());
+        QVERIFY(QMetaObject::invokeMethod(editor, "selectAll"));
+        QTest::keyClicks(editor, step.at(1));
+        QCOMPARE(written, 0); // nothing is written while typing
+        if (step.at(2) == QLatin1String("leave")) {
+            // A click on a name edits that row's value.
+            QVERIFY(qobject_cast<QLineEdit *>(openEditor(browser, "above", 0)));
             QTRY_VERIFY(!editor);
-        if (pane.manager) {
-            text->setValue(order + gone);
-            if (browser)
-                QCOMPARE(rowValue(browser, "text"), order + gone);
-            if (browser && !pane.factory)
-                QVERIFY(!openEditor(browser, "text"));
+        } else {
+            QTest::keyClick(editor,
+                            step.at(2) == QLatin1String("Enter") ? Qt::Key_Return : Qt::Key_Escape);
+            QTest::qWait(1);
+        }
+        const QString text = step.at(2) == QLatin1String("Escape") ? before : step.at(1);
+        QCOMPARE(rowValue(browser, "p"), text);
+    }
+
+    void editorsAndDialogs()
+    {
+        Pane pane;
+        QtTreePropertyBrowser *browser = pane.browser.get();
+        QtVariantProperty *number = pane.add(QMetaType::Int, "number", 5);
+        QtVariantProperty *font = pane.add(QMetaType::QFont, "font");
+        QtVariantProperty *shortcut = pane.add(QMetaType::QKeySequence, "shortcut");
+        pane.add(QMetaType::QColor, "color", QColor(Qt::red));
+        pane.add(QtVariantPropertyManager::enumTypeId(), "choice")
+                ->setAttribute(QStringLiteral("enumNames"), QStringList({"Red", "Green"}));
+        pane.show();
+
+        // Attributes and the values they clamp reach an open editor.
+        auto *spin = qobject_cast<QSpinBox *>(openEditor(browser, "number"));
+        QVERIFY(spin);
+        number->setAttribute(QStringLiteral("maximum"), 4);
+        QCOMPARE(spin->maximum(), 4);
+        QCOMPARE(spin->value(), 4);
+        auto *combo = qobject_cast<QComboBox *>(openEditor(browser, "choice"));
+        QVERIFY(combo);
+        combo->setCurrentIndex(1);
+        QCOMPARE(rowValue(browser, "choice"), QStringLiteral("Green"));
+
+        // A sub-property editor changes the parent; a click anywhere in a check cell toggles.
+        auto *bold = qobject_cast<QCheckBox *>(openEditor(browser, "Bold"));
+        QVERIFY(bold);
+        QTest::mouseClick(bold, Qt::LeftButton, {}, QPoint(bold->width() - 4, bold->height() / 2));
+        QVERIFY(font->value().value<QFont>().bold());
+        QCOMPARE(rowValue(browser, "Bold"), QStringLiteral("True"));
+
+        QWidget *keys = openEditor(browser, "shortcut");
+        QVERIFY(qobject_cast<QKeySequenceEdit *>(keys));
+        QTRY_VERIFY(keys->hasFocus() || keys->isAncestorOf(QApplication::focusWidget()));
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_K, Qt::ControlModifier);
+        // The key sequence is taken once the user pauses.
+        const QKeySequence ctrlK(Qt::CTRL | Qt::Key_K);
+        QTRY_COMPARE(shortcut->value().value<QKeySequence>(), ctrlK);
+        QCOMPARE(rowValue(browser, "shortcut"), ctrlK.toString(QKeySequence::NativeText));
+
+        // Dialogs open on the current value; a cancelled one changes nothing.
+        for (const bool accept : {true, false}) {
+            QColor shown;
+            const auto pick = [&](QColorDialog *dialog) {
+                shown = dialog->currentColor();
+                dialog->setCurrentColor(accept ? Qt::blue : Qt::green);
+            };
+            QVERIFY(answerDialog<QColorDialog>(browser, "color", pick, accept));
+            QCOMPARE(shown, QColor(accept ? Qt::red : Qt::blue));
+            QCOMPARE(rowValue(browser, "color"), QStringLiteral("[0, 0, 255] (255)"));
+        }
+        // A font from the dialog shows in the rows below.
+        QVERIFY(answerDialog<QFontDialog>(browser, "font", [](QFontDialog *dialog) {
+            QFont chosen = dialog->currentFont();
+            chosen.setPointSize(31);
+            chosen.setUnderline(true);
+            dialog->setCurrentFont(chosen);
+        }));
+        QCOMPARE(rowValue(browser, "Point Size"), QStringLiteral("31"));
+        QCOMPARE(rowValue(browser, "Underline"), QStringLiteral("True"));
+    }
+
+    void splitterAndResizeMode()
+    {
+        Pane pane;
+        QtTreePropertyBrowser *browser = pane.browser.get();
+        pane.add(QMetaType::QString, "name", QStringLiteral("v"));
+        // Set before the browser is shown (as an item editor's pane sets it), the position holds
+        // once it is, and through resizes; the value column takes the rest.
+        browser->setResizeMode(QtTreePropertyBrowser::Interactive);
+        browser->setSplitterPosition(150);
+        pane.show();
+        QCOMPARE(browser->splitterPosition(), 150);
+        browser->resize(500, 400);
+        QTRY_COMPARE(browser->width(), 500);
+        QHeaderView *header = treeOf(browser)->header();
+        const int width = treeOf(browser)->viewport()->width();
+        QTRY_COMPARE(header->sectionSize(1), width - 150);
+        QCOMPARE(browser->splitterPosition(), 150);
+
+        // The user drags the column border.
+        const int border = header->sectionViewportPosition(1);
+        const int y = header->height() / 2;
+        QTest::mousePress(header->viewport(), Qt::LeftButton, {}, QPoint(border - 1, y));
+        QMouseEvent move(QEvent::MouseMove, QPointF(border + 59, y), Qt::LeftButton, Qt::LeftButton,
+                         Qt::NoModifier);
+        QApplication::sendEvent(header->viewport(), &move);
+        QTest::mouseRelease(header->viewport(), Qt::LeftButton, {}, QPoint(border + 59, y));
+        QCOMPARE(browser->splitterPosition(), 210);
+    }
+
+    void sharedProperty()
+    {
+        Pane one;
+        QtTreePropertyBrowser second;
+        second.setFactoryForManager<QtVariantPropertyManager>(one.manager.get(), one.factory.get());
+        QtTreePropertyBrowser *first = one.browser.get();
+        QtVariantProperty *text = one.add(QMetaType::QString, "text");
+        QtVariantProperty *font = one.add(QMetaType::QFont, "font");
+        second.addProperty(text);
+        second.addProperty(font);
+
+        one.show();
+        auto *editor = qobject_cast<QLineEdit *>(openEditor(first, "text"));
+        QVERIFY(editor);
+        QTRY_VERIFY(editor->hasFocus());
+        QTest::keyClicks(editor, QStringLiteral("shared"));
+        QTest::keyClick(editor, Qt::Key_Return);
+        QCOMPARE(rowValue(&second, "text"), QStringLiteral("shared"));
+
+        first->removeProperty(text);
+        delete font;
+        QCOMPARE(treeOf(first)->topLevelItemCount(), 0);
+        QCOMPARE(treeOf(&second)->topLevelItemCount(), 1);
+
+        // Unsetting the factory in one browser leaves the other one editing.
+        first->addProperty(text);
+        first->unsetFactoryForManager(one.manager.get());
+        QVERIFY(!openEditor(first, "text"));
+        second.show();
+        QApplication::setActiveWindow(&second);
+        QVERIFY(QTest::qWaitForWindowActive(&second));
+        QVERIFY(qobject_cast<QLineEdit *>(openEditor(&second, "text")));
+    }
+
+    void deletionOrders_data()
+    {
+        QTest::addColumn<QString>("order"); // manager, factory, browser
+        for (const char *order : {"mfb", "mbf", "fmb", "fbm", "bmf", "bfm"})
+            QTest::newRow(order) << QString::fromLatin1(order);
+    }
+
+    void deletionOrders()
+    {
+        QFETCH(QString, order);
+        Pane pane;
+        QtVariantProperty *text = pane.add(QMetaType::QString, "text");
+        pane.add(QMetaType::QFont, "font");
+        pane.show();
+        QPointer<QWidget> editor = openEditor(pane.browser.get(), "text");
+        QVERIFY(editor);
+        QTest::keyClicks(editor, QStringLiteral("typed"));
+
+        for (const QChar gone : order) {
+            if (gone == QLatin1Char('m'))
+                pane.manager.reset();
+            else if (gone == QLatin1Char('f'))
+                pane.factory.reset();
+            else
+                pane.browser.reset();
+            QtTreePropertyBrowser *browser = pane.browser.get();
+            if (!pane.manager && browser) {
+                QVERIFY(browser->topLevelItems().isEmpty());
+                QCOMPARE(treeOf(browser)->topLevelItemCount(), 0);
+            }
+            if (!pane.manager || !browser)
+                QTRY_VERIFY(!editor);
+            if (pane.manager) {
+                text->setValue(order + gone);
+                if (browser)
+                    QCOMPARE(rowValue(browser, "text"), order + gone);
+                if (browser && !pane.factory)
+                    QVERIFY(!openEditor(browser, "text"));
+            }
         }
     }
-}
+};
 
 QTEST_MAIN(TestTreePropertyBrowser)
 #include "tst_treepropertybrowser.moc"

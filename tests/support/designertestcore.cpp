@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QDesignerComponents>
 #include <QDesignerFormEditorInterface>
-#include <QDesignerFormWindowInterface>
 #include <QDesignerFormWindowManagerInterface>
 #include <QDesignerIntegration>
 #include <QDir>
@@ -11,7 +10,6 @@
 #include <QFileInfo>
 #include <QLibraryInfo>
 #include <QTemporaryDir>
-#include <QWidget>
 
 namespace CcTest {
 
@@ -66,25 +64,6 @@ void closeFormWindow(QDesignerFormWindowInterface *formWindow)
         return;
     designerCore()->formWindowManager()->removeFormWindow(formWindow);
     delete formWindow;
-}
-
-QString formXml(const QString &bodyXml, const QString &customWidgetsXml)
-{
-    QString xml = QStringLiteral(
-            "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
-            "<ui version=\"4.0\">\n"
-            " <class>Form</class>\n"
-            " <widget class=\"QWidget\" name=\"Form\">\n"
-            "  <property name=\"geometry\">\n"
-            "   <rect><x>0</x><y>0</y><width>640</width><height>480</height></rect>\n"
-            "  </property>\n");
-    xml += bodyXml;
-    xml += QStringLiteral(" </widget>\n");
-    if (!customWidgetsXml.isEmpty())
-        xml += QStringLiteral(" <customwidgets>\n") + customWidgetsXml
-                + QStringLiteral(" </customwidgets>\n");
-    xml += QStringLiteral(" <resources/>\n <connections/>\n</ui>\n");
-    return xml;
 }
 
 } // namespace CcTest

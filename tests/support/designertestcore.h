@@ -1,10 +1,13 @@
 #pragma once
 
+#include "uixml.h"
+
+#include <QDesignerFormWindowInterface>
 #include <QString>
 #include <QStringList>
+#include <QWidget>
 
 class QDesignerFormEditorInterface;
-class QDesignerFormWindowInterface;
 
 namespace CcTest {
 
@@ -26,7 +29,11 @@ QDesignerFormEditorInterface *designerCore();
 QDesignerFormWindowInterface *createFormWindow(const QString &uiXml = QString());
 void closeFormWindow(QDesignerFormWindowInterface *formWindow);
 
-// A minimal .ui document whose top level is a QWidget named "Form" holding bodyXml.
-QString formXml(const QString &bodyXml, const QString &customWidgetsXml = QString());
+// The widget of that name and class on a form.
+template<class T = QWidget>
+T *formChild(QDesignerFormWindowInterface *form, const char *name)
+{
+    return form->mainContainer()->findChild<T *>(QLatin1String(name));
+}
 
 } // namespace CcTest

@@ -40,6 +40,11 @@ inline QVariant stringValue(const QString &text)
     return QVariant::fromValue(qdesigner_internal::PropertySheetStringValue(text));
 }
 
+inline qdesigner_internal::PropertySheetStringValue stringOf(const QVariant &value)
+{
+    return qvariant_cast<qdesigner_internal::PropertySheetStringValue>(value);
+}
+
 inline QVariant iconValue(const QString &path)
 {
     using namespace qdesigner_internal;

@@ -12,7 +12,6 @@
 #include <QTimer>
 #include <algorithm>
 #include <functional>
-#include <memory>
 
 namespace CcTest {
 
@@ -32,22 +31,23 @@ template<class T>
 bool answerModal(const std::function<void()> &open, const std::function<void(T *)> &act,
                  bool accept = true)
 {
-    auto done = std::make_shared<bool>(false);
+    // The timer and its connection are gone before this function returns: the lambda may
+    // refer to the locals.
+    bool done = false;
+    QPointer<T> answered;
+    QElapsedTimer clock, sinceAct;
     QPointer<QTimer> timer = new QTimer(qApp); // gone with the application at the latest
-    auto clock = std::make_shared<QElapsedTimer>();
-    auto sinceAct = std::make_shared<QElapsedTimer>();
-    auto answered = std::make_shared<QPointer<T>>();
-    clock->start();
-    QObject::connect(timer, &QTimer::timeout, [=] {
+    clock.start();
+    QObject::connect(timer, &QTimer::timeout, [&] {
         T *dialog = qobject_cast<T *>(QApplication::activeModalWidget());
-        const bool again = *done && dialog && dialog == answered->data();
-        if (dialog && (!*done || (again && sinceAct->elapsed() > 300))) {
-            *done = true;
-            *answered = dialog;
-            sinceAct->start();
+        const bool again = done && dialog && dialog == answered.data();
+        if (dialog && (!done || (again && sinceAct.elapsed() > 300))) {
+            done = true;
+            answered = dialog;
+            sinceAct.start();
             act(dialog);
             QMetaObject::invokeMethod(dialog, accept ? "accept" : "reject");
-        } else if ((*done && !again) || clock->elapsed() > 20000) {
+        } else if ((done && !again) || clock.elapsed() > 20000) {
             timer->stop();
             timer->deleteLater();
         }
@@ -56,7 +56,7 @@ bool answerModal(const std::function<void()> &open, const std::function<void(T *
     open();
     // Whatever open() did, its dialog is over: a later one is not this call's to answer.
     delete timer.data();
-    return *done;
+    return done;
 }
 
 // Dialogs alive, shown or not: what an edit must not leave behind.

@@ -142,11 +142,7 @@ public:
 private:
     QTreeWidgetItem *propertyItem(const QString &name) const
     {
-        for (int i = 0; i < m_pane->topLevelItemCount(); ++i) {
-            if (m_pane->topLevelItem(i)->text(0) == name)
-                return m_pane->topLevelItem(i);
-        }
-        return nullptr;
+        return m_pane->findItems(name, Qt::MatchExactly).value(0);
     }
     void openPropertyEditor(const QString &name)
     {
@@ -201,13 +197,12 @@ inline bool edit(QWidget *widget, const std::function<void(ItemDialogDriver &)> 
     if (!menu)
         return false;
     QAction *entry = menu->preferredEditAction();
-    return answerModal<QDialog>([entry] { entry->trigger(); },
-                                [act](QDialog *dialog) {
-                                    ItemDialogDriver driver(dialog);
-                                    if (driver.isValid())
-                                        act(driver);
-                                },
-                                accept);
+    const auto work = [act](QDialog *dialog) {
+        ItemDialogDriver driver(dialog);
+        if (driver.isValid())
+            act(driver);
+    };
+    return answerModal<QDialog>([entry] { entry->trigger(); }, work, accept);
 }
 
 } // namespace CcTest

@@ -15,16 +15,16 @@
 #include "designertestcore.h"
 #include "itemdialogdriver.h"
 #include "modalanswer.h"
+#include "pagegroup.h"
 #include "testpictures.h"
+#include "uixml.h"
+#include "warninglog.h"
 
-#include <nui/CommonControls/CcCheckableTextComboBox.hpp>
 #include <nui/CommonControls/CcComboBox.hpp>
-#include <nui/CommonControls/CcDrawbackBoxGroup.hpp>
 #include <nui/CommonControls/CcFormBuilder.hpp>
 #include <nui/CommonControls/CcMatrixButtons.hpp>
 #include <nui/CommonControls/CcMatrixPopButtons.hpp>
 #include <nui/CommonControls/template/CcOptionButtons.hpp>
-#include <nui/CommonControls/template/CcOptionComboBox.hpp>
 #include <nui/CommonControls/template/CcOptionRadios.hpp>
 
 #include <QDesignerContainerExtension>
@@ -50,11 +50,8 @@ QStringList comboTexts(const QComboBox *combo)
     return texts;
 }
 QStringList shownByComboBox(QWidget *w) { return comboTexts(qobject_cast<QComboBox *>(w)); }
-template<class Widget>
-QStringList shownByInnerCombo(QWidget *w)
-{
-    return comboTexts(qobject_cast<Widget *>(w)->comboBox());
-}
+// An option or checkable combo box: the one combo box it holds.
+QStringList shownByInnerCombo(QWidget *w) { return comboTexts(w->findChild<QComboBox *>()); }
 template<class Widget>
 QStringList shownByButtons(QWidget *w)
 {
@@ -81,46 +78,37 @@ QStringList shownByPageGroup(QWidget *w)
     return titles;
 }
 
-QString prop(const char *name, const char *value, const char *kind = "string", bool notr = false)
-{
-    return QStringLiteral("<property name=\"%1\"><%3%4>%2</%3></property>")
-            .arg(QLatin1String(name), QLatin1String(value), QLatin1String(kind),
-                 notr ? QStringLiteral(" notr=\"true\"") : QString());
-}
 QString untranslated(const char *name, const char *value)
 {
-    return prop(name, value, "string", true);
+    return propertyXml(name, value, "string", true);
 }
-QString item(const QString &properties)
+QString textItem(const char *text, const QString &extras = QString())
 {
-    return QStringLiteral("<item>%1</item>").arg(properties);
+    return itemXml(propertyXml("text", text) + extras);
 }
 
 // Entries A, B and C; B carries the extra values its widget keeps.
 QString entries(const QString &extraOfB)
 {
-    return item(prop("text", "A")) + item(prop("text", "B") + extraOfB) + item(prop("text", "C"));
+    return textItem("A") + textItem("B", extraOfB) + textItem("C");
 }
-const QString optionExtras = prop("toolTip", "tipB") + untranslated("data", "dB");
-const QString pages =
-        QStringLiteral("<widget class=\"QWidget\" name=\"pageA\">%1</widget>"
-                       "<widget class=\"QWidget\" name=\"pageB\">%2</widget>"
-                       "<widget class=\"QWidget\" name=\"pageC\">%3</widget>")
-                .arg(prop("windowTitle", "A"), prop("windowTitle", "B"), prop("windowTitle", "C"));
+const QString optionExtras = propertyXml("toolTip", "tipB") + untranslated("data", "dB");
+const QString pages = widgetXml("QWidget", "pageA", propertyXml("windowTitle", "A"))
+        + widgetXml("QWidget", "pageB", propertyXml("windowTitle", "B"))
+        + widgetXml("QWidget", "pageC", propertyXml("windowTitle", "C"));
 // A 2 x 3 matrix a..e and an empty cell; a has an icon, a tool tip and an action.
 const QString firstCellExtras =
         untranslated("icon",
                      ":/qt-project.org/styles/commonstyle/images/standardbutton-open-16.png")
-        + prop("toolTip", "tipa") + untranslated("action", "acta");
-const QString dimensions = prop("row", "2", "number") + prop("column", "3", "number");
-const QString matrixEntries = dimensions + item(prop("text", "a") + firstCellExtras)
-        + item(prop("text", "b")) + item(prop("text", "c")) + item(prop("text", "d"))
-        + item(prop("text", "e"));
+        + propertyXml("toolTip", "tipa") + untranslated("action", "acta");
+const QString dimensions = propertyXml("row", "2", "number") + propertyXml("column", "3", "number");
+const QString matrixEntries = dimensions + textItem("a", firstCellExtras) + textItem("b")
+        + textItem("c") + textItem("d") + textItem("e");
 const QString popEntries = dimensions
         + QStringLiteral("<property name=\"textList\"><stringlist><string>a</string>"
                          "<string>b</string><string>c</string><string>d</string>"
                          "<string>e</string><string></string></stringlist></property>")
-        + item(firstCellExtras);
+        + itemXml(firstCellExtras);
 
 // What a user does in an editor: looks at it as it opens and makes a change (then Cancel),
 // makes a change and takes it back (then OK), and edits for real (then OK).
@@ -207,9 +195,8 @@ const Script matrixScripts[] = {matrixOpened, matrixChangedBack, matrixEdit};
 // widget shows of them, its editor, and an edit's results.
 struct Family
 {
-    const char *className;
-    const char *entry;
-    const char *title;
+    // The class, its context-menu entry and the title of its editor.
+    const char *className, *entry, *title;
     QStringList properties;
     const char *command;
     QStringList (*shown)(QWidget *);
@@ -236,9 +223,9 @@ const QStringList optionSaved = {"@icon", "tooltipAdded", "dataAdded", "tipB", "
 const Family families[] = {
     {"VoCc::ComboBox", "Edit Items", "Edit ComboBox", {"text", "icon", "action"}, "", shownByComboBox,
      entries(untranslated("action", "actB")), true, abc, addedBC, abc, {"@icon", "actionAdded", "actB"}, {}, 1},
-    {"VoCc::CheckableTextComboBox", "Edit Items", "Edit Checkable ComboBox", {"text", "toolTip"}, "", shownByInnerCombo<VoCc::CheckableTextComboBox>,
-     entries(prop("toolTip", "tipB")), true, abc, addedBC, abc, {"toolTipAdded", "tipB"}, {}, 1},
-    {"VoCc::OptionComboBox", "Edit Items", "Edit Option ComboBox", {"text", "icon", "data"}, "", shownByInnerCombo<VoCc::OptionComboBox>,
+    {"VoCc::CheckableTextComboBox", "Edit Items", "Edit Checkable ComboBox", {"text", "toolTip"}, "", shownByInnerCombo,
+     entries(propertyXml("toolTip", "tipB")), true, abc, addedBC, abc, {"toolTipAdded", "tipB"}, {}, 1},
+    {"VoCc::OptionComboBox", "Edit Items", "Edit Option ComboBox", {"text", "icon", "data"}, "", shownByInnerCombo,
      entries(untranslated("data", "dB")), true, abc, addedBC, abc, {"@icon", "dataAdded", "dB"}, {}, 1},
     {"VoCc::OptionButtons", "Edit Buttons", "Edit OptionButtons", {"text", "icon", "tooltip", "data"}, "Change OptionButtons Contents", shownByButtons<VoCc::OptionButtons>,
      entries(optionExtras), true, abc, addedBC, abc, optionSaved, {}, 1},
@@ -262,15 +249,8 @@ const Family &pageGroupFamily = families[5];
 // A form holding one widget of the family, named "edited".
 QString familyForm(const Family &family)
 {
-    return formXml(QStringLiteral("<widget class=\"%1\" name=\"edited\">%2</widget>\n")
-                           .arg(QLatin1String(family.className), family.entriesXml),
-                   QStringLiteral("<customwidget><class>VoCc::DrawbackBoxGroup</class><extends>"
-                                  "QWidget</extends><addpagemethod>addPage</addpagemethod>"
-                                  "</customwidget>"));
-}
-QWidget *editedWidget(QDesignerFormWindowInterface *form)
-{
-    return form->mainContainer()->findChild<QWidget *>(QStringLiteral("edited"));
+    return formXml(widgetXml(family.className, "edited", family.entriesXml),
+                   pageGroupDeclaration());
 }
 
 // The form as Undo must give it back: the page group is left on its last page by every
@@ -316,19 +296,15 @@ struct Session
 
 QString describe(const Session &session)
 {
-    QString text = QStringLiteral("seed %1, %2 (steps E edit, U undo, R redo, L save and load; "
-                                  "actions s select, n new, d delete, u up, D down, r rename, "
-                                  "p property, i icon, R rows, C columns, c cell):")
-                           .arg(session.seed)
-                           .arg(QLatin1String(families[session.family].className));
+    QString text = QString::asprintf("seed %u, %s (steps E edit, U undo, R redo, L save and load; "
+                                     "actions s select, n new, d delete, u up, D down, r rename, "
+                                     "p property, i icon, R rows, C columns, c cell):",
+                                     session.seed, families[session.family].className);
     for (const Step &step : session.steps) {
-        text += QStringLiteral("\n  %1 x%2").arg(QLatin1Char(step.kind)).arg(step.count);
+        text += QString::asprintf("\n  %c x%d", step.kind, step.count);
         for (const Action &action : step.actions)
-            text += QStringLiteral(" %1(%2,%3,%4)")
-                            .arg(QLatin1Char(action.act))
-                            .arg(action.a)
-                            .arg(action.b)
-                            .arg(action.text);
+            text += QString::asprintf(" %c(%d,%d,%s)", action.act, action.a, action.b,
+                                      qUtf8Printable(action.text));
         if (!step.accept)
             text += QStringLiteral(" Cancel");
     }
@@ -379,54 +355,24 @@ void act(Driver &dialog, const Family &family, const Action &action)
             : dialog.table()->currentRow() >= 0 && dialog.table()->currentColumn() >= 0;
     const bool pane = !dialog.propertyNames().isEmpty();
     const QStringList strings = family.properties.filter(QRegularExpression("^(?!icon$)"));
-    switch (action.act) {
-    case 's':
-        if (rows > 0)
-            dialog.select(action.a % rows);
-        break;
-    case 'n':
+    if (action.act == 's' && rows > 0)
+        dialog.select(action.a % rows);
+    else if (action.act == 'n')
         dialog.addRow(action.text);
-        break;
-    case 'd':
-    case 'u':
-    case 'D':
+    else if (action.act == 'd' || action.act == 'u' || action.act == 'D')
         dialog.click(action.act == 'd'           ? "deleteListItemButton"
                              : action.act == 'u' ? "moveListItemUpButton"
                                                  : "moveListItemDownButton");
-        break;
-    case 'r':
-        if (current)
-            dialog.renameCurrent(action.text);
-        break;
-    case 'p':
-        if (pane)
-            dialog.typeProperty(strings.at(action.a % strings.size()), action.text);
-        break;
-    case 'i':
-        if (pane && family.properties.contains(QStringLiteral("icon")))
-            dialog.chooseIconFile(QStringLiteral("icon"), testIcon);
-        break;
-    case 'R':
-    case 'C':
+    else if (action.act == 'r' && current)
+        dialog.renameCurrent(action.text);
+    else if (action.act == 'p' && pane)
+        dialog.typeProperty(strings.at(action.a % strings.size()), action.text);
+    else if (action.act == 'i' && pane && family.properties.contains(QStringLiteral("icon")))
+        dialog.chooseIconFile(QStringLiteral("icon"), testIcon);
+    else if (action.act == 'R' || action.act == 'C')
         dialog.stepTo(action.act == 'R' ? "rowCounts" : "colCounts", 1 + action.a % 5);
-        break;
-    case 'c':
-        if (rows > 0 && columns > 0)
-            dialog.selectCell(action.a % rows, action.b % columns);
-        break;
-    }
-}
-
-// Warnings raised while a session runs; the offscreen platform's own notes are not ours.
-QStringList warnings;
-QtMessageHandler previousHandler = nullptr;
-void collectWarnings(QtMsgType type, const QMessageLogContext &context, const QString &message)
-{
-    if (message.contains(QLatin1String("propagateSizeHints")))
-        return;
-    if (type != QtDebugMsg && type != QtInfoMsg)
-        warnings << message;
-    previousHandler(type, context, message);
+    else if (action.act == 'c' && rows > 0 && columns > 0)
+        dialog.selectCell(action.a % rows, action.b % columns);
 }
 
 // The first promise a form breaks after a step, or an empty text.
@@ -434,11 +380,11 @@ QString brokenPromise(QDesignerFormWindowInterface *form, const Family &family,
                       const QString &start, const QString &lastEdit)
 {
     const QString now = form->contents();
-    const QStringList shown = family.shown(editedWidget(form));
-    if (shown != shownAtRunTime(family, now))
+    const QStringList shown = family.shown(formChild(form, "edited"));
+    const QStringList said = shownAtRunTime(family, now);
+    if (shown != said)
         return QStringLiteral("the widget shows %1, its form says %2")
-                .arg(shown.join(QLatin1Char('|')),
-                     shownAtRunTime(family, now).join(QLatin1Char('|')));
+                .arg(shown.join(QLatin1Char('|')), said.join(QLatin1Char('|')));
     QDesignerFormWindowInterface *loaded = createFormWindow(now);
     const QString saved = loaded->contents();
     closeFormWindow(loaded);
@@ -459,8 +405,6 @@ QString brokenPromise(QDesignerFormWindowInterface *form, const Family &family,
                 .arg(redone, lastEdit);
     if (comparable(family, form->contents()) != comparable(family, now))
         return QStringLiteral("undoing and redoing to the same place changes the form");
-    if (!warnings.isEmpty())
-        return QStringLiteral("warned: ") + warnings.join(QStringLiteral(" | "));
     return QString();
 }
 
@@ -476,7 +420,7 @@ QString runSession(const Session &session)
         const Step &step = session.steps.at(i);
         QUndoStack *history = form->commandHistory();
         const int before = history->index();
-        warnings.clear();
+        const WarningLog log;
         if (step.kind == 'U' || step.kind == 'R')
             history->setIndex(qBound(0, before + (step.kind == 'U' ? -step.count : step.count),
                                      history->count()));
@@ -487,18 +431,18 @@ QString runSession(const Session &session)
             start = lastEdit = form->contents();
         }
         if (step.kind == 'E') {
-            edit(
-                    editedWidget(form),
-                    [&](Driver &dialog) {
-                        for (const Action &action : step.actions)
-                            act(dialog, family, action);
-                    },
-                    step.accept);
+            const auto actions = [&](Driver &dialog) {
+                for (const Action &action : step.actions)
+                    act(dialog, family, action);
+            };
+            edit(formChild(form, "edited"), actions, step.accept);
             if (history->index() != before)
                 lastEdit = form->contents();
         }
         settle();
         broken = brokenPromise(form, family, start, lastEdit);
+        if (broken.isEmpty() && !log.warnings.isEmpty())
+            broken = QStringLiteral("warned: ") + log.warnings.join(QStringLiteral(" | "));
         if (broken.isEmpty() && dialogCount() != dialogs)
             broken = QStringLiteral("an editor outlived its edit");
         if (broken.isEmpty() && QTest::currentTestFailed())
@@ -560,7 +504,7 @@ private slots:
         const Script *scripts = family.list ? listScripts : matrixScripts;
         QDesignerFormWindowInterface *form = createFormWindow(familyForm(family));
         const auto closeForm = qScopeGuard([form] { closeFormWindow(form); });
-        QWidget *widget = editedWidget(form);
+        QWidget *widget = formChild(form, "edited");
         QVERIFY(widget);
         QCOMPARE(family.shown(widget), family.opened);
         QUndoStack *history = form->commandHistory();
@@ -568,14 +512,12 @@ private slots:
 
         // The editor opens on the widget's entries; Cancel after a change and OK without one
         // leave the form alone.
-        QVERIFY(edit(
-                widget,
-                [&](Driver &dialog) {
-                    QCOMPARE(dialog.dialog()->windowTitle(), QLatin1String(family.title));
-                    QCOMPARE(dialog.propertyNames(), family.properties);
-                    scripts[0](dialog);
-                },
-                false));
+        const auto opened = [&](Driver &dialog) {
+            QCOMPARE(dialog.dialog()->windowTitle(), QLatin1String(family.title));
+            QCOMPARE(dialog.propertyNames(), family.properties);
+            scripts[0](dialog);
+        };
+        QVERIFY(edit(widget, opened, false));
         QVERIFY(edit(widget, scripts[1]));
         QCOMPARE(history->count(), 0);
         QVERIFY(!form->isDirty());
@@ -609,15 +551,9 @@ private slots:
     {
         QDesignerFormWindowInterface *form = createFormWindow(familyForm(pageGroupFamily));
         const auto closeForm = qScopeGuard([form] { closeFormWindow(form); });
-        auto *group = qobject_cast<VoCc::DrawbackBoxGroup *>(editedWidget(form));
+        auto *group = formChild<VoCc::DrawbackBoxGroup>(form, "edited");
         QVERIFY(group);
-        auto pages = [group] {
-            QWidgetList list;
-            for (int i = 0; i < group->count(); ++i)
-                list.append(group->widget(i));
-            return list;
-        };
-        const QWidgetList original = pages();
+        const QWidgetList original = pagesOf(group);
         const int boxes = group->findChildren<VoCc::DrawbackBox *>().size();
 
         // Up then down, and an insert deleted again, come back to the pages as they were:
@@ -640,7 +576,7 @@ private slots:
             dialog.addRow(QStringLiteral("New1"));
             dialog.addRow(QStringLiteral("New2"));
         }));
-        const QWidgetList edited = pages();
+        const QWidgetList edited = pagesOf(group);
         QCOMPARE(edited.size(), 5);
         QCOMPARE(edited.mid(0, 2), QWidgetList({original.at(0), original.at(2)}));
         QCOMPARE(edited.at(4), original.at(1));
@@ -650,10 +586,10 @@ private slots:
         QVERIFY(edited.at(2)->objectName() != edited.at(3)->objectName());
         QCOMPARE(group->currentIndex(), 4);
         form->commandHistory()->undo();
-        QCOMPARE(pages(), original);
+        QCOMPARE(pagesOf(group), original);
         QCOMPARE(group->currentIndex(), 2);
         form->commandHistory()->redo();
-        QCOMPARE(pages(), edited);
+        QCOMPARE(pagesOf(group), edited);
     }
 
     // Each family's context menu: one entry, from its own factory, serving task menus of
@@ -681,14 +617,8 @@ private slots:
 
     void randomSessions()
     {
-        previousHandler = qInstallMessageHandler(collectWarnings);
-        const auto restore = qScopeGuard([] { qInstallMessageHandler(previousHandler); });
-        const int sessions = qEnvironmentVariableIsSet("CC_RANDOM_SESSIONS")
-                ? qEnvironmentVariableIntValue("CC_RANDOM_SESSIONS")
-                : 300;
-        const auto seed = quint32(qEnvironmentVariableIsSet("CC_RANDOM_SEED")
-                                          ? qEnvironmentVariableIntValue("CC_RANDOM_SEED")
-                                          : 1);
+        const int sessions = qEnvironmentVariable("CC_RANDOM_SESSIONS", "300").toInt();
+        const quint32 seed = qEnvironmentVariable("CC_RANDOM_SEED", "1").toUInt();
         QElapsedTimer clock;
         clock.start();
         for (int i = 0; i < sessions; ++i) {
