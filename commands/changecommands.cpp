@@ -1,5 +1,7 @@
 #include "changecommands.h"
 
+#include "entrystringattributes.h"
+
 #include <nui/CommonControls/CcAbstractMatrixOptions.hpp>
 #include <nui/CommonControls/CcCheckableTextComboBox.hpp>
 #include <nui/CommonControls/CcComboBox.hpp>
@@ -11,6 +13,10 @@
 
 #include <QtDesigner/private/formwindowbase_p.h>
 #include <QtDesigner/private/qdesigner_utils_p.h>
+
+#include <QDesignerFormEditorInterface>
+#include <QDesignerPropertySheetExtension>
+#include <QExtensionManager>
 
 #include <QCoreApplication>
 #include <QStandardItemModel>
@@ -38,16 +44,32 @@ DesignerIconCache *iconCacheOf(QDesignerFormWindowInterface *formWindow)
 // library spells it so).
 void relayOut(QWidget *options) { QMetaObject::invokeMethod(options, "updateGeomtries"); }
 
+// How the texts and tool tips are marked for translation goes with them.
+void applyStringAttributes(QObject *widget, const QVariantList &texts, const QVariantList &toolTips)
+{
+    EntryStringAttributes::write(widget, EntryStringAttributes::texts, texts);
+    EntryStringAttributes::write(widget, EntryStringAttributes::toolTips, toolTips);
+}
+
+void applyStringAttributes(QObject *widget, const ItemRecords &items)
+{
+    applyStringAttributes(widget, recordStringAttributes(items, ItemRoles::Text),
+                          recordStringAttributes(items, ItemRoles::ToolTip));
+}
+
 // The cells of a matrix: its lists emptied first, then written whole.
 template<class Matrix>
 void applyCells(Matrix *matrix, const MatrixContents &contents)
 {
     QStringList texts, iconPaths, toolTips, actions;
     contents.toLists(&texts, &iconPaths, &toolTips, &actions);
+    QVariantList textAttributes, toolTipAttributes;
+    contents.toAttributeLists(&textAttributes, &toolTipAttributes);
     matrix->setTextList(texts);
     matrix->setIconList(iconPaths);
     matrix->setToolTips(toolTips);
     matrix->setActionList(actions);
+    applyStringAttributes(matrix, textAttributes, toolTipAttributes);
     relayOut(matrix);
 }
 
@@ -67,6 +89,7 @@ void applyOptions(Options *options, const ItemRecords &items)
     options->setIconList(recordIconPaths(items));
     options->setToolTips(recordStrings(items, ItemRoles::ToolTip));
     options->setDataList(recordStrings(items, ItemRoles::Data));
+    applyStringAttributes(options, items);
     relayOut(options);
 }
 
@@ -98,6 +121,7 @@ void ChangeCheckComboCommand::applyItems(const ItemRecords &items)
         return;
     m_widget->setItemTextList(recordStrings(items, ItemRoles::Text));
     m_widget->setToolTips(recordStrings(items, ItemRoles::ToolTip));
+    applyStringAttributes(m_widget, items);
 }
 
 ChangeComboBoxCommand::ChangeComboBoxCommand(QDesignerFormWindowInterface *formWindow)
@@ -155,6 +179,7 @@ void ChangeOptionComboCommand::applyItems(const ItemRecords &items)
     m_widget->setTextList(recordStrings(items, ItemRoles::Text));
     m_widget->setIconList(recordIconPaths(items));
     m_widget->setDataList(recordStrings(items, ItemRoles::Data));
+    applyStringAttributes(m_widget, items);
 }
 
 ChangeOptionButtonsCommand::ChangeOptionButtonsCommand(QDesignerFormWindowInterface *formWindow)
@@ -193,6 +218,20 @@ void ChangeDrawbackBoxCommand::init(VoCc::DrawbackBoxGroup *group,
     m_finalOrder = finalOrder;
 }
 
+// A page's title is its "windowTitle", which Designer saves from the page's property sheet:
+// the sheet's value carries how the title is marked for translation.
+void ChangeDrawbackBoxCommand::keepTitleAttributes(QWidget *page, const QVariant &title)
+{
+    QDesignerFormWindowInterface *form = formWindow();
+    if (!page || !form)
+        return;
+    auto *sheet = qt_extension<QDesignerPropertySheetExtension *>(
+            form->core()->extensionManager(), page);
+    const int index = sheet ? sheet->indexOf(QStringLiteral("windowTitle")) : -1;
+    if (index >= 0)
+        sheet->setProperty(index, title.isValid() ? title : designerString(QString()));
+}
+
 void ChangeDrawbackBoxCommand::applyItems(const PageGroupContents &contents)
 {
     VoCc::DrawbackBoxGroup *group = m_widget.data();
@@ -202,6 +241,7 @@ void ChangeDrawbackBoxCommand::applyItems(const PageGroupContents &contents)
     for (int i = 0; i < group->count(); ++i) {
         group->setCurrentIndex(i);
         group->setPageTitle(titles.value(i));
+        keepTitleAttributes(group->widget(i), contents.items.value(i).value(ItemRoles::Text));
     }
     QMetaObject::invokeMethod(group, "repaint");
     // Pages came or went: the object inspector shows the form's tree anew.

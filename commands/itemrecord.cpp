@@ -75,9 +75,43 @@ QStringList recordIconPaths(const ItemRecords &records)
     return paths;
 }
 
-QVariant designerString(const QString &text)
+QVariant designerString(const QString &text, const QVariantMap &attributes)
 {
-    return QVariant::fromValue(PropertySheetStringValue(text));
+    PropertySheetStringValue value(text, !attributes.value(QStringLiteral("notr")).toBool(),
+                                   attributes.value(QStringLiteral("comment")).toString(),
+                                   attributes.value(QStringLiteral("extracomment")).toString());
+    value.setId(attributes.value(QStringLiteral("id")).toString());
+    return QVariant::fromValue(value);
+}
+
+QVariantMap stringAttributes(const QVariant &designerString)
+{
+    QVariantMap attributes;
+    if (!designerString.canConvert<PropertySheetStringValue>())
+        return attributes;
+    const auto value = qvariant_cast<PropertySheetStringValue>(designerString);
+    if (!value.translatable())
+        attributes.insert(QStringLiteral("notr"), true);
+    const QString texts[] = {value.disambiguation(), value.comment(), value.id()};
+    const char *const names[] = {"comment", "extracomment", "id"};
+    for (int i = 0; i < 3; ++i) {
+        if (!texts[i].isEmpty())
+            attributes.insert(QLatin1String(names[i]), texts[i]);
+    }
+    return attributes;
+}
+
+QVariantList recordStringAttributes(const ItemRecords &records, int role)
+{
+    QVariantList attributes;
+    bool marked = false;
+    attributes.reserve(records.size());
+    for (const ItemRecord &record : records) {
+        const QVariantMap entry = stringAttributes(record.value(role));
+        marked = marked || !entry.isEmpty();
+        attributes.append(entry);
+    }
+    return marked ? attributes : QVariantList();
 }
 
 QVariant designerIcon(const QString &pixmapPath)
@@ -85,8 +119,9 @@ QVariant designerIcon(const QString &pixmapPath)
     return QVariant::fromValue(PropertySheetIconValue(PropertySheetPixmapValue(pixmapPath)));
 }
 
-void setRecordString(ItemRecord &record, int role, const QString &text)
+void setRecordString(ItemRecord &record, int role, const QString &text,
+                     const QVariantMap &attributes)
 {
     if (!text.isEmpty())
-        record.insert(role, designerString(text));
+        record.insert(role, designerString(text, attributes));
 }

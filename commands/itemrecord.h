@@ -4,6 +4,8 @@
 #include <QMap>
 #include <QString>
 #include <QVariant>
+#include <QVariantList>
+#include <QVariantMap>
 
 // One entry of a list-like widget while it is edited: item data role -> value. Texts, tool
 // tips, actions and data are Designer string values (role 27 text, 29 tool tip, 33 action,
@@ -36,8 +38,15 @@ QString recordIconPath(const ItemRecord &record);
 QStringList recordStrings(const ItemRecords &records, int role);
 QStringList recordIconPaths(const ItemRecords &records);
 
-// Record values made from plain strings.
-QVariant designerString(const QString &text);
+// Record values made from plain strings. A string value may carry translation attributes
+// as the widgets keep them ("notr", "comment" for the disambiguation, "extracomment" for the
+// translator's comment, "id").
+QVariant designerString(const QString &text, const QVariantMap &attributes = QVariantMap());
+// The translation attributes of a string value: empty for a plain translatable string.
+QVariantMap stringAttributes(const QVariant &designerString);
+// One map per record, or an empty list when no record's string carries any.
+QVariantList recordStringAttributes(const ItemRecords &records, int role);
 QVariant designerIcon(const QString &pixmapPath);
-// Sets role to a string value unless text is empty.
-void setRecordString(ItemRecord &record, int role, const QString &text);
+// Sets role to a string value (with its translation attributes) unless text is empty.
+void setRecordString(ItemRecord &record, int role, const QString &text,
+                     const QVariantMap &attributes = QVariantMap());

@@ -1,5 +1,7 @@
 #include "matrixcontents.h"
 
+#include "entrystringattributes.h"
+
 #include <nui/CommonControls/CcAbstractMatrixOptions.hpp>
 #include <nui/CommonControls/CcMatrixPopButtons.hpp>
 
@@ -27,12 +29,32 @@ QString plainString(const QVariant &value)
     return qvariant_cast<PropertySheetStringValue>(value).value();
 }
 
-// The cell strings at one index of a widget's lists.
-CellStrings stringsAt(const QStringList &texts, const QStringList &icons,
-                      const QStringList &toolTips, const QStringList &actions, int index)
+// The lists a widget's cells are read from.
+struct WidgetLists
 {
-    return {texts.value(index), icons.value(index), toolTips.value(index), actions.value(index)};
-}
+    QStringList texts, icons, toolTips, actions;
+    QVariantList textAttributes, toolTipAttributes;
+
+    template<class Matrix>
+    explicit WidgetLists(const Matrix *matrix)
+        : texts(matrix->textList()),
+          icons(matrix->iconList()),
+          toolTips(matrix->toolTips()),
+          actions(matrix->actionList()),
+          textAttributes(EntryStringAttributes::read(matrix, EntryStringAttributes::texts)),
+          toolTipAttributes(EntryStringAttributes::read(matrix, EntryStringAttributes::toolTips))
+    { }
+
+    CellStrings at(int index) const
+    {
+        return {texts.value(index),
+                icons.value(index),
+                toolTips.value(index),
+                actions.value(index),
+                textAttributes.value(index).toMap(),
+                toolTipAttributes.value(index).toMap()};
+    }
+};
 
 // Columns outer, rows inner; cell (r, c) is entry column count x r + c of the lists.
 template<class Matrix, class HasCell>
@@ -41,18 +63,13 @@ void fillFromMatrix(MatrixContents &contents, const Matrix *matrix, HasCell hasC
     contents.clear();
     contents.rowCount = matrix->row();
     contents.columnCount = matrix->column();
-    const QStringList texts = matrix->textList();
-    const QStringList icons = matrix->iconList();
-    const QStringList toolTips = matrix->toolTips();
-    const QStringList actions = matrix->actionList();
+    const WidgetLists lists(matrix);
     for (int c = 0; c < contents.columnCount; ++c) {
         for (int r = 0; r < contents.rowCount; ++r) {
             const int index = contents.columnCount * r + c;
             if (!hasCell(index))
                 continue;
-            contents.cells.insert({r, c},
-                                  CellRecords::fromStrings(
-                                          stringsAt(texts, icons, toolTips, actions, index), true));
+            contents.cells.insert({r, c}, CellRecords::fromStrings(lists.at(index), true));
         }
     }
 }
@@ -65,14 +82,14 @@ ItemRecord fromStrings(const CellStrings &strings, bool editor)
 {
     QTableWidgetItem item;
     if (!strings.text.isEmpty())
-        item.setData(ItemRoles::Text, designerString(strings.text));
+        item.setData(ItemRoles::Text, designerString(strings.text, strings.textAttributes));
     if (!strings.iconPath.isEmpty()) {
         const PropertySheetIconValue icon {PropertySheetPixmapValue(strings.iconPath)};
         if (!icon.isEmpty())
             item.setData(ItemRoles::Icon, QVariant::fromValue(icon));
     }
     if (!strings.toolTip.isEmpty())
-        item.setData(ItemRoles::ToolTip, designerString(strings.toolTip));
+        item.setData(ItemRoles::ToolTip, designerString(strings.toolTip, strings.toolTipAttributes));
     if (!strings.action.isEmpty()) {
         // The value filled is the one under the role below the action's, on purpose; on a new
         // item both are empty, so it holds the action alone.
@@ -111,6 +128,7 @@ CellStrings toStrings(const ItemRecord &record)
         switch (it.key()) {
         case ItemRoles::Text:
             strings.text = plainString(it.value());
+            strings.textAttributes = stringAttributes(it.value());
             break;
         case ItemRoles::Icon:
             strings.iconPath = qvariant_cast<PropertySheetIconValue>(it.value())
@@ -119,6 +137,7 @@ CellStrings toStrings(const ItemRecord &record)
             break;
         case ItemRoles::ToolTip:
             strings.toolTip = plainString(it.value());
+            strings.toolTipAttributes = stringAttributes(it.value());
             break;
         case ItemRoles::Action:
             strings.action = plainString(it.value());
@@ -234,6 +253,37 @@ void MatrixContents::toLists(QStringList *texts, QStringList *iconPaths, QString
         (*iconPaths)[index] = strings.iconPath;
         (*toolTips)[index] = strings.toolTip;
         (*actions)[index] = strings.action;
+    }
+}
+
+void MatrixContents::toAttributeLists(QVariantList *textAttributes,
+                                      QVariantList *toolTipAttributes) const
+{
+    const int count = cells.size();
+    bool marked[2] = {false, false};
+    QVariantList *lists[2] = {textAttributes, toolTipAttributes};
+    for (QVariantList *list : lists) {
+        list->clear();
+        list->reserve(count);
+        for (int i = 0; i < count; ++i)
+            list->append(QVariantMap());
+    }
+    for (auto it = cells.cbegin(); it != cells.cend(); ++it) {
+        const int index = columnCount * it.key().first + it.key().second;
+        if (index < 0 || index >= count)
+            continue;
+        const QVariantMap attributes[2] = {stringAttributes(it.value().value(ItemRoles::Text)),
+                                           stringAttributes(it.value().value(ItemRoles::ToolTip))};
+        for (int i = 0; i < 2; ++i) {
+            if (!attributes[i].isEmpty()) {
+                (*lists[i])[index] = attributes[i];
+                marked[i] = true;
+            }
+        }
+    }
+    for (int i = 0; i < 2; ++i) {
+        if (!marked[i])
+            lists[i]->clear();
     }
 }
 

@@ -20,13 +20,15 @@ class MatrixPopButtons;
 } // namespace VoCc
 
 // One cell of a button matrix as its four strings: what the widget's lists hold at the
-// cell's index.
+// cell's index, with the translation attributes of its text and tool tip.
 struct CellStrings
 {
     QString text;
     QString iconPath;
     QString toolTip;
     QString action;
+    QVariantMap textAttributes = {};
+    QVariantMap toolTipAttributes = {};
 };
 
 // The conversions of one cell between its record, its four strings and a table item. With
@@ -64,6 +66,9 @@ struct MatrixContents
     // cell (row, column) at column count x row + column, empty where a cell has none.
     void toLists(QStringList *texts, QStringList *iconPaths, QStringList *toolTips,
                  QStringList *actions) const;
+    // The translation attributes of the texts and tool tips, laid out as those lists; a list
+    // is empty when no cell's string carries any.
+    void toAttributeLists(QVariantList *textAttributes, QVariantList *toolTipAttributes) const;
 };
 
 // Same dimensions and the same cells with equal values.

@@ -5,11 +5,14 @@
 
 #include <nui/CommonControls/CcDrawbackBoxGroup.hpp>
 
+#include <QtDesigner/private/qdesigner_utils_p.h>
 #include <QtDesigner/private/qdesigner_widget_p.h>
 
 #include <QDesignerFormEditorInterface>
 #include <QDesignerFormWindowInterface>
 #include <QDesignerMetaDataBaseInterface>
+#include <QDesignerPropertySheetExtension>
+#include <QExtensionManager>
 
 #include <algorithm>
 
@@ -26,6 +29,23 @@ const PropertyDefinition pageProperties[] = {{ItemRoles::Text, 0, stringType, "t
                                              {ItemRoles::Data, 0, stringType, "data"},
                                              {0, 0, nullptr, nullptr}};
 
+// A page's title as Designer keeps it: the page's "windowTitle" in its property sheet, with
+// how it is marked for translation; the plain title where the page has no sheet.
+QVariant titleOf(QDesignerFormWindowInterface *form, VoCc::DrawbackBoxGroup *group, int index)
+{
+    QWidget *page = group->widget(index);
+    auto *sheet = page && form ? qt_extension<QDesignerPropertySheetExtension *>(
+                                         form->core()->extensionManager(), page)
+                               : nullptr;
+    const int property = sheet ? sheet->indexOf(QStringLiteral("windowTitle")) : -1;
+    const QVariant value = property >= 0 ? sheet->property(property) : QVariant();
+    using qdesigner_internal::PropertySheetStringValue;
+    if (value.canConvert<PropertySheetStringValue>()
+        && qvariant_cast<PropertySheetStringValue>(value).value() == group->pageTitle(index))
+        return value;
+    return designerString(group->pageTitle(index));
+}
+
 } // namespace
 
 DrawbackBoxEditor::DrawbackBoxEditor(QDesignerFormWindowInterface *form, QWidget *parent)
@@ -40,7 +60,8 @@ PageGroupContents DrawbackBoxEditor::loadFromWidget(VoCc::DrawbackBoxGroup *grou
     m_initialOrder.clear();
     for (int i = 0; i < group->count(); ++i) {
         ItemRecord record;
-        setRecordString(record, ItemRoles::Text, group->pageTitle(i));
+        if (!group->pageTitle(i).isEmpty())
+            record.insert(ItemRoles::Text, titleOf(m_formWindow, group, i));
         m_loaded.items.append(record);
         m_loaded.pages.append(group->box(i));
         m_initialOrder.append(i);

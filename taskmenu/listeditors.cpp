@@ -1,6 +1,7 @@
 #include "listeditors.h"
 
 #include "designerpropertymanager.h"
+#include "entrystringattributes.h"
 
 #include <nui/CommonControls/CcCheckableTextComboBox.hpp>
 #include <nui/CommonControls/CcComboBox.hpp>
@@ -46,16 +47,20 @@ ItemRecords optionRecords(const VoCc::AbstractOptions *options, bool withToolTip
     const QStringList icons = options->iconList();
     const QStringList toolTips = options->toolTips();
     const QStringList data = options->dataList();
+    const QVariantList textMarks = EntryStringAttributes::read(options, EntryStringAttributes::texts);
+    const QVariantList toolTipMarks =
+            EntryStringAttributes::read(options, EntryStringAttributes::toolTips);
     ItemRecords items;
     items.reserve(texts.size());
     for (int i = 0; i < texts.size(); ++i) {
         ItemRecord record;
-        setRecordString(record, ItemRoles::Text, texts.at(i));
+        setRecordString(record, ItemRoles::Text, texts.at(i), textMarks.value(i).toMap());
         const QString icon = icons.value(i);
         if (!icon.isEmpty())
             record.insert(ItemRoles::Icon, designerIcon(icon));
         if (withToolTips)
-            setRecordString(record, ItemRoles::ToolTip, toolTips.value(i));
+            setRecordString(record, ItemRoles::ToolTip, toolTips.value(i),
+                            toolTipMarks.value(i).toMap());
         setRecordString(record, ItemRoles::Data, data.value(i));
         items.append(record);
     }
@@ -73,13 +78,18 @@ ItemRecords CheckComboEditor::loadFromWidget(VoCc::CheckableTextComboBox *comboB
     setWindowTitle(tr("Edit Checkable ComboBox"));
     const QStringList texts = comboBox->itemTextList();
     const QStringList toolTips = comboBox->toolTips();
+    const QVariantList textMarks =
+            EntryStringAttributes::read(comboBox, EntryStringAttributes::texts);
+    const QVariantList toolTipMarks =
+            EntryStringAttributes::read(comboBox, EntryStringAttributes::toolTips);
     const int count = comboBox->comboBox()->count();
     ItemRecords items;
     items.reserve(count);
     for (int i = 0; i < count; ++i) {
         ItemRecord record;
-        setRecordString(record, ItemRoles::Text, texts.value(i));
-        setRecordString(record, ItemRoles::ToolTip, toolTips.value(i));
+        setRecordString(record, ItemRoles::Text, texts.value(i), textMarks.value(i).toMap());
+        setRecordString(record, ItemRoles::ToolTip, toolTips.value(i),
+                        toolTipMarks.value(i).toMap());
         items.append(record);
     }
     fillList(items, comboBox, checkComboProperties);

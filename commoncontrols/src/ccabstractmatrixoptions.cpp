@@ -64,6 +64,16 @@ void AbstractMatrixOptions::setToolTips(const QStringList &toolTips)
     setList(GridCells::ToolTip, toolTips);
 }
 
+QVariantList AbstractMatrixOptions::stringAttributes(const QString &list) const
+{
+    return EntryLists::stringAttributes(m_stringAttributes, list);
+}
+
+void AbstractMatrixOptions::setStringAttributes(const QString &list, const QVariantList &attributes)
+{
+    EntryLists::setStringAttributes(m_stringAttributes, list, attributes);
+}
+
 QStringList AbstractMatrixOptions::actionList() const { return m_cells->list(GridCells::Action); }
 
 void AbstractMatrixOptions::setActionList(const QStringList &actions)

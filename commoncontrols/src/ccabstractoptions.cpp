@@ -32,6 +32,16 @@ void AbstractOptions::setToolTips(const QStringList &toolTips)
     updateGeomtries();
 }
 
+QVariantList AbstractOptions::stringAttributes(const QString &list) const
+{
+    return EntryLists::stringAttributes(m_stringAttributes, list);
+}
+
+void AbstractOptions::setStringAttributes(const QString &list, const QVariantList &attributes)
+{
+    EntryLists::setStringAttributes(m_stringAttributes, list, attributes);
+}
+
 QStringList AbstractOptions::dataList() const { return m_dataList; }
 
 void AbstractOptions::setDataList(const QStringList &data)

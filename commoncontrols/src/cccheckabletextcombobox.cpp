@@ -69,6 +69,16 @@ void CheckableTextComboBox::setToolTips(const QStringList &toolTips)
     applyToolTips();
 }
 
+QVariantList CheckableTextComboBox::stringAttributes(const QString &list) const
+{
+    return EntryLists::stringAttributes(m_stringAttributes, list);
+}
+
+void CheckableTextComboBox::setStringAttributes(const QString &list, const QVariantList &attributes)
+{
+    EntryLists::setStringAttributes(m_stringAttributes, list, attributes);
+}
+
 bool CheckableTextComboBox::isChecked(int index) const
 {
     const QStandardItem *item = m_model->item(index);

@@ -21,12 +21,16 @@ const char *notrOf(Field field)
     }
 }
 
-DomProperty *stringProperty(const QString &name, const QString &value, const char *notr)
+bool carriesAttributes(Field field) { return field == Text || field == ToolTip; }
+
+DomProperty *stringProperty(const QString &name, const QString &value, const char *notr,
+                            const QVariantMap &attributes = QVariantMap())
 {
     auto *string = new DomString;
     string->setText(value);
     if (notr)
         string->setAttributeNotr(QLatin1String(notr));
+    setAttributes(string, attributes);
     auto *property = new DomProperty;
     property->setAttributeName(name);
     property->setElementString(string);
@@ -35,11 +39,8 @@ DomProperty *stringProperty(const QString &name, const QString &value, const cha
 
 void replaceProperty(DomWidget *domWidget, DomProperty *replacement)
 {
+    removeProperty(domWidget, replacement->attributeName());
     QList<DomProperty *> properties = domWidget->elementProperty();
-    for (int i = properties.size() - 1; i >= 0; --i) {
-        if (properties.at(i)->attributeName() == replacement->attributeName())
-            delete properties.takeAt(i);
-    }
     properties.append(replacement);
     domWidget->setElementProperty(properties);
 }
@@ -72,7 +73,8 @@ void writeItems(DomWidget *domWidget, const Lists &lists, const QVector<Field> &
         for (Field field : qAsConst(ordered)) {
             const QString value = lists[field].value(i);
             if (!value.isEmpty())
-                properties.append(stringProperty(fieldName(field), value, notrOf(field)));
+                properties.append(stringProperty(fieldName(field), value, notrOf(field),
+                                                 lists.attributes[field].value(i).toMap()));
         }
         auto *item = new DomItem;
         item->setElementProperty(properties);
@@ -85,18 +87,31 @@ void writeItems(DomWidget *domWidget, const Lists &lists, const QVector<Field> &
 Lists readItems(const DomWidget *domWidget, const QVector<Field> &fields)
 {
     Lists lists;
+    bool marked[FieldCount] = {};
     const QVector<DomItem *> items = domWidget->elementItem();
     for (const DomItem *item : items) {
         QString values[FieldCount];
+        QVariantMap attributes[FieldCount];
         const QList<DomProperty *> properties = item->elementProperty();
         for (const DomProperty *property : properties) {
             for (Field field : fields) {
-                if (property->attributeName() == fieldName(field))
-                    values[field] = propertyText(property);
+                if (property->attributeName() != fieldName(field))
+                    continue;
+                values[field] = propertyText(property);
+                if (carriesAttributes(field) && property->kind() == DomProperty::String)
+                    attributes[field] = attributesOf(property->elementString());
             }
         }
-        for (Field field : fields)
+        for (Field field : fields) {
             lists[field].append(values[field]);
+            lists.attributes[field].append(attributes[field]);
+            marked[field] = marked[field] || !attributes[field].isEmpty();
+        }
+    }
+    // Lists of plain strings carry no attributes at all.
+    for (Field field : fields) {
+        if (!marked[field])
+            lists.attributes[field].clear();
     }
     return lists;
 }
@@ -149,14 +164,75 @@ void setStringProperty(DomWidget *domWidget, const QString &name, const QString 
     replaceProperty(domWidget, stringProperty(name, value, nullptr));
 }
 
-void setStringListProperty(DomWidget *domWidget, const QString &name, const QStringList &value)
+void setStringListProperty(DomWidget *domWidget, const QString &name, const QStringList &value,
+                           const QVariantMap &attributes)
 {
     auto *list = new DomStringList;
     list->setElementString(value);
+    setAttributes(list, attributes);
     auto *property = new DomProperty;
     property->setAttributeName(name);
     property->setElementStringList(list);
     replaceProperty(domWidget, property);
+}
+
+void removeProperty(DomWidget *domWidget, const QString &name)
+{
+    QList<DomProperty *> properties = domWidget->elementProperty();
+    for (int i = properties.size() - 1; i >= 0; --i) {
+        if (properties.at(i)->attributeName() == name)
+            delete properties.takeAt(i);
+    }
+    domWidget->setElementProperty(properties);
+}
+
+namespace {
+
+// DomString and DomStringList spell their translation attributes alike.
+template<class Element>
+QVariantMap attributesOfElement(const Element *element)
+{
+    QVariantMap attributes;
+    if (!element)
+        return attributes;
+    if (element->hasAttributeNotr() && element->attributeNotr() == QLatin1String("true"))
+        attributes.insert(QStringLiteral("notr"), true);
+    if (!element->attributeComment().isEmpty())
+        attributes.insert(QStringLiteral("comment"), element->attributeComment());
+    if (!element->attributeExtraComment().isEmpty())
+        attributes.insert(QStringLiteral("extracomment"), element->attributeExtraComment());
+    if (!element->attributeId().isEmpty())
+        attributes.insert(QStringLiteral("id"), element->attributeId());
+    return attributes;
+}
+
+template<class Element>
+void setElementAttributes(Element *element, const QVariantMap &attributes)
+{
+    if (attributes.value(QStringLiteral("notr")).toBool())
+        element->setAttributeNotr(QStringLiteral("true"));
+    const QString comment = attributes.value(QStringLiteral("comment")).toString();
+    if (!comment.isEmpty())
+        element->setAttributeComment(comment);
+    const QString extraComment = attributes.value(QStringLiteral("extracomment")).toString();
+    if (!extraComment.isEmpty())
+        element->setAttributeExtraComment(extraComment);
+    const QString id = attributes.value(QStringLiteral("id")).toString();
+    if (!id.isEmpty())
+        element->setAttributeId(id);
+}
+
+} // namespace
+
+QVariantMap attributesOf(const DomString *string) { return attributesOfElement(string); }
+QVariantMap attributesOf(const DomStringList *list) { return attributesOfElement(list); }
+void setAttributes(DomString *string, const QVariantMap &attributes)
+{
+    setElementAttributes(string, attributes);
+}
+void setAttributes(DomStringList *list, const QVariantMap &attributes)
+{
+    setElementAttributes(list, attributes);
 }
 
 const DomProperty *findProperty(const DomWidget *domWidget, const QString &name)

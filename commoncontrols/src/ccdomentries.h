@@ -2,11 +2,15 @@
 
 #include <QString>
 #include <QStringList>
+#include <QVariantList>
+#include <QVariantMap>
 #include <QVector>
 
 QT_BEGIN_NAMESPACE
 class DomItem;
 class DomProperty;
+class DomString;
+class DomStringList;
 class DomWidget;
 QT_END_NAMESPACE
 
@@ -17,10 +21,13 @@ namespace DomEntries {
 enum Field { Data, Text, Icon, ToolTip, Action, FieldCount };
 QString fieldName(Field field);
 
-// One list per field, aligned by index.
+// One list per field, aligned by index. Texts and tool tips may carry translation
+// attributes: one map per entry ("notr", "comment", "extracomment", "id"), as the widgets
+// keep them; a missing or empty map is a plain translatable string.
 struct Lists
 {
     QStringList lists[FieldCount];
+    QVariantList attributes[FieldCount];
 
     QStringList &operator[](Field field) { return lists[field]; }
     const QStringList &operator[](Field field) const { return lists[field]; }
@@ -28,11 +35,14 @@ struct Lists
 
 // Replaces the widget element's items with one item per entry of the given fields: item i
 // holds entry i of every listed field that is not empty, in the order data, text, icon,
-// toolTip, action. The number of items is the length of the longest list.
+// toolTip, action. The number of items is the length of the longest list. Texts and tool
+// tips are written with their attributes (notr="false" unless marked), the other fields
+// with notr="true".
 void writeItems(DomWidget *domWidget, const Lists &lists, const QVector<Field> &fields);
 
 // Reads the given fields from the element's items; every list gets one entry per item
-// (an empty one where the item lacks the property). Unknown properties are ignored.
+// (an empty one where the item lacks the property), texts and tool tips their attributes.
+// Unknown properties are ignored.
 Lists readItems(const DomWidget *domWidget, const QVector<Field> &fields);
 
 // The text of a property of any string-like kind (string, number, pixmap, icon set...), or
@@ -42,7 +52,19 @@ QString propertyText(const DomProperty *property);
 // Sets one property of a widget element, replacing every property of that name before.
 void setNumberProperty(DomWidget *domWidget, const QString &name, int value);
 void setStringProperty(DomWidget *domWidget, const QString &name, const QString &value);
-void setStringListProperty(DomWidget *domWidget, const QString &name, const QStringList &value);
+
+// A string list property with the given translation attributes (a string list has one set).
+void setStringListProperty(DomWidget *domWidget, const QString &name, const QStringList &value,
+                           const QVariantMap &attributes);
+// Removes every property of that name.
+void removeProperty(DomWidget *domWidget, const QString &name);
+
+// The translation attributes of a string or string list as a map, and back; notr="false"
+// and empty attributes are the plain case and give nothing.
+QVariantMap attributesOf(const DomString *string);
+QVariantMap attributesOf(const DomStringList *list);
+void setAttributes(DomString *string, const QVariantMap &attributes);
+void setAttributes(DomStringList *list, const QVariantMap &attributes);
 
 // The property of that name of an element, or null.
 const DomProperty *findProperty(const DomWidget *domWidget, const QString &name);

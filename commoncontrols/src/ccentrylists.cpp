@@ -3,6 +3,8 @@
 #include <QFileInfo>
 #include <QPixmap>
 
+#include <algorithm>
+
 namespace VoCc {
 namespace EntryLists {
 
@@ -23,6 +25,21 @@ QString shownText(const QString &text)
     if (text.size() <= maximumShownLength)
         return text;
     return text.left(maximumShownLength - 1) + QChar(0x2026);
+}
+
+QVariantList stringAttributes(const QVariantMap &store, const QString &list)
+{
+    return store.value(list).toList();
+}
+
+void setStringAttributes(QVariantMap &store, const QString &list, const QVariantList &attributes)
+{
+    const bool marked = std::any_of(attributes.cbegin(), attributes.cend(),
+                                    [](const QVariant &entry) { return !entry.toMap().isEmpty(); });
+    if (marked)
+        store.insert(list, attributes);
+    else
+        store.remove(list);
 }
 
 } // namespace EntryLists

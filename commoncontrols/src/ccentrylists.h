@@ -3,6 +3,8 @@
 #include <QIcon>
 #include <QString>
 #include <QStringList>
+#include <QVariantList>
+#include <QVariantMap>
 
 namespace VoCc {
 namespace EntryLists {
@@ -24,6 +26,12 @@ const int maximumShownLength = 1000;
 // What a widget shows of an entry's text: the text, or its first characters up to the
 // maximum and an ellipsis. The entry itself keeps its whole text.
 QString shownText(const QString &text);
+
+// The translation attributes of one list of entries ("text" or "toolTip"), kept in a store
+// keyed by list. A list whose maps are all empty is not kept: most forms mark nothing, and a
+// grid of 99 x 99 cells would otherwise carry 9,801 empty maps.
+QVariantList stringAttributes(const QVariantMap &store, const QString &list);
+void setStringAttributes(QVariantMap &store, const QString &list, const QVariantList &attributes);
 
 } // namespace EntryLists
 } // namespace VoCc

@@ -184,6 +184,39 @@ void dropTrailingBlankCells(Lists &lists, const QVector<Field> &fields)
     fitToEntries(lists, fields, count);
 }
 
+// The translation attributes of a widget's texts and tool tips travel with its lists.
+template<class Widget>
+void takeAttributes(Lists &lists, const Widget *widget)
+{
+    for (Field field : {Text, ToolTip})
+        lists.attributes[field] = widget->stringAttributes(fieldName(field));
+}
+
+template<class Widget>
+void giveAttributes(Widget *widget, const Lists &lists)
+{
+    for (Field field : {Text, ToolTip})
+        widget->setStringAttributes(fieldName(field), lists.attributes[field]);
+}
+
+// The one set of attributes all texts of a list share, when they do: a string list carries
+// one set for all its strings. Entries without a text do not count.
+bool sharedAttributes(const QStringList &texts, const QVariantList &attributes, QVariantMap *shared)
+{
+    bool first = true;
+    for (int i = 0; i < texts.size(); ++i) {
+        if (texts.at(i).isEmpty())
+            continue;
+        const QVariantMap entry = attributes.value(i).toMap();
+        if (first)
+            *shared = entry;
+        else if (entry != *shared)
+            return false;
+        first = false;
+    }
+    return true;
+}
+
 DomWidget *findChildElement(DomWidget *domWidget, const QString &objectName)
 {
     const QVector<DomWidget *> children = domWidget->elementWidget();
@@ -202,8 +235,13 @@ void savePageGroup(DomWidget *domWidget, DrawbackBoxGroup *group)
     for (int i = 0; i < group->count(); ++i) {
         QWidget *page = group->widget(i);
         DomWidget *pageElement = page ? findChildElement(domWidget, page->objectName()) : nullptr;
-        if (pageElement && !group->pageTitle(i).isEmpty())
-            setStringProperty(pageElement, windowTitleProperty, group->pageTitle(i));
+        const QString title = group->pageTitle(i);
+        if (!pageElement || title.isEmpty())
+            continue;
+        // A title the writer saved already keeps its translation attributes.
+        const DomProperty *saved = findProperty(pageElement, windowTitleProperty);
+        if (!saved || saved->kind() != DomProperty::String || propertyText(saved) != title)
+            setStringProperty(pageElement, windowTitleProperty, title);
     }
 }
 
@@ -221,12 +259,11 @@ void loadPageGroup(const DomWidget *domWidget, DrawbackBoxGroup *group)
     }
 }
 
-QStringList stringListProperty(const DomWidget *domWidget, const QString &name, bool *found)
+const DomStringList *stringListProperty(const DomWidget *domWidget, const QString &name)
 {
     const DomProperty *property = findProperty(domWidget, name);
-    *found = property && property->kind() == DomProperty::StringList
-            && property->elementStringList();
-    return *found ? property->elementStringList()->elementString() : QStringList();
+    return property && property->kind() == DomProperty::StringList ? property->elementStringList()
+                                                                     : nullptr;
 }
 
 // How deep elements may nest in a form this builder loads. Qt's .ui reader and form builder
@@ -614,12 +651,14 @@ void FormBuilder::saveExtraInfo(DomWidget *domWidget, QWidget *widget, void *con
         lists[Icon] = options->iconList();
         lists[ToolTip] = options->toolTips();
         lists[Data] = options->dataList();
+        takeAttributes(lists, options);
         fitToEntries(lists, optionFields, options->count());
         writeItems(domWidget, lists, optionFields);
     } else if (auto *checkCombo = qobject_cast<CheckableTextComboBox *>(widget)) {
         Lists lists;
         lists[Text] = checkCombo->itemTextList();
         lists[ToolTip] = checkCombo->toolTips();
+        takeAttributes(lists, checkCombo);
         fitToEntries(lists, checkComboFields, lists[Text].size());
         writeItems(domWidget, lists, checkComboFields);
     } else if (auto *matrix = qobject_cast<AbstractMatrixOptions *>(widget)) {
@@ -628,6 +667,7 @@ void FormBuilder::saveExtraInfo(DomWidget *domWidget, QWidget *widget, void *con
         lists[Icon] = matrix->iconList();
         lists[ToolTip] = matrix->toolTips();
         lists[Action] = matrix->actionList();
+        takeAttributes(lists, matrix);
         setNumberProperty(domWidget, rowProperty, matrix->row());
         setNumberProperty(domWidget, columnProperty, matrix->column());
         dropTrailingBlankCells(lists, matrixFields);
@@ -638,11 +678,20 @@ void FormBuilder::saveExtraInfo(DomWidget *domWidget, QWidget *widget, void *con
         lists[Icon] = popButtons->iconList();
         lists[ToolTip] = popButtons->toolTips();
         lists[Action] = popButtons->actionList();
+        takeAttributes(lists, popButtons);
         dropTrailingBlankCells(lists, matrixFields);
         setNumberProperty(domWidget, rowProperty, popButtons->row());
         setNumberProperty(domWidget, columnProperty, popButtons->column());
-        setStringListProperty(domWidget, textListProperty, lists[Text]);
-        writeItems(domWidget, lists, popCellFields);
+        // Texts marked alike are one string list; texts marked differently go into the items,
+        // each with its own attributes, as a string list cannot hold them.
+        QVariantMap textAttributes;
+        if (sharedAttributes(lists[Text], lists.attributes[Text], &textAttributes)) {
+            setStringListProperty(domWidget, textListProperty, lists[Text], textAttributes);
+            writeItems(domWidget, lists, popCellFields);
+        } else {
+            removeProperty(domWidget, textListProperty);
+            writeItems(domWidget, lists, matrixFields);
+        }
     } else if (auto *comboBox = qobject_cast<ComboBox *>(widget)) {
         // The items themselves are the form writer's; each gets its action.
         writeItemActions(domWidget, comboBox->actionList());
@@ -664,30 +713,41 @@ void FormBuilder::loadExtraInfo(DomWidget *domWidget, QWidget *widget, void *con
         options->setIconList(lists[Icon]);
         options->setToolTips(lists[ToolTip]);
         options->setDataList(lists[Data]);
+        giveAttributes(options, lists);
     } else if (auto *checkCombo = qobject_cast<CheckableTextComboBox *>(widget)) {
         Lists lists = readItems(domWidget, checkComboFields);
         checkCombo->setItemTextList(lists[Text]);
         checkCombo->setToolTips(lists[ToolTip]);
+        giveAttributes(checkCombo, lists);
     } else if (auto *matrix = qobject_cast<AbstractMatrixOptions *>(widget)) {
         Lists lists = readItems(domWidget, matrixFields);
         matrix->setTextList(lists[Text]);
         matrix->setIconList(lists[Icon]);
         matrix->setToolTips(lists[ToolTip]);
         matrix->setActionList(lists[Action]);
+        giveAttributes(matrix, lists);
     } else if (auto *popButtons = qobject_cast<MatrixPopButtons *>(widget)) {
+        // Texts are one string list, or in the items when they are marked differently (or in
+        // a file written by hand).
+        const DomStringList *textList = stringListProperty(domWidget, textListProperty);
         QVector<Field> fields = popCellFields;
-        bool hasTextList = false;
-        const QStringList texts = stringListProperty(domWidget, textListProperty, &hasTextList);
-        if (!hasTextList)
-            fields.append(Text); // a file written by hand may keep the texts in the items
+        if (!textList)
+            fields.append(Text);
         Lists lists = readItems(domWidget, fields);
-        if (hasTextList)
-            lists[Text] = texts;
+        if (textList) {
+            lists[Text] = textList->elementString();
+            const QVariantMap shared = attributesOf(textList);
+            if (!shared.isEmpty()) {
+                for (int i = 0; i < lists[Text].size(); ++i)
+                    lists.attributes[Text].append(shared);
+            }
+        }
         padLists(lists, {Text, Icon, ToolTip, Action});
         popButtons->setTextList(lists[Text]);
         popButtons->setIconList(lists[Icon]);
         popButtons->setToolTips(lists[ToolTip]);
         popButtons->setActionList(lists[Action]);
+        giveAttributes(popButtons, lists);
     } else if (auto *comboBox = qobject_cast<ComboBox *>(widget)) {
         QStringList actions = readItems(domWidget, {Action})[Action];
         comboBox->setActionList(actions);

@@ -59,6 +59,16 @@ void MatrixPopButtons::setToolTips(const QStringList &toolTips)
     setList(GridCells::ToolTip, toolTips);
 }
 
+QVariantList MatrixPopButtons::stringAttributes(const QString &list) const
+{
+    return EntryLists::stringAttributes(m_stringAttributes, list);
+}
+
+void MatrixPopButtons::setStringAttributes(const QString &list, const QVariantList &attributes)
+{
+    EntryLists::setStringAttributes(m_stringAttributes, list, attributes);
+}
+
 QStringList MatrixPopButtons::actionList() const { return m_cells->list(GridCells::Action); }
 
 void MatrixPopButtons::setActionList(const QStringList &actions)

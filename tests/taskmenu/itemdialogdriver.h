@@ -6,6 +6,7 @@
 #include <QDesignerFormEditorInterface>
 #include <QDesignerTaskMenuExtension>
 #include <QExtensionManager>
+#include <QCheckBox>
 #include <QHeaderView>
 #include <QListWidget>
 #include <QMenu>
@@ -56,7 +57,8 @@ public:
         }
         return texts;
     }
-    // The names of the pane's properties, top to bottom, and one's value as it shows.
+    // The names of the pane's properties, top to bottom, and one's value as it shows. A
+    // sub-property is named through its parent: "text/comment".
     QStringList propertyNames() const
     {
         QStringList names;
@@ -121,6 +123,17 @@ public:
         openPropertyEditor(name);
         typeIntoShownEditor(m_pane->viewport(), text);
     }
+    // Clicks a check box property (a string's "translatable") of the current row.
+    void toggleProperty(const QString &name)
+    {
+        openPropertyEditor(name);
+        const QList<QCheckBox *> boxes = m_pane->viewport()->findChildren<QCheckBox *>();
+        auto shown = std::find_if(boxes.cbegin(), boxes.cend(),
+                                  [](const QCheckBox *box) { return box->isVisible(); });
+        QVERIFY2(shown != boxes.cend(), qPrintable(name));
+        QTest::mouseClick(*shown, Qt::LeftButton);
+        settle();
+    }
     // Picks a file for an icon property of the current row through the file dialog.
     void chooseIconFile(const QString &name, const QString &path)
     {
@@ -142,7 +155,18 @@ public:
 private:
     QTreeWidgetItem *propertyItem(const QString &name) const
     {
-        return m_pane->findItems(name, Qt::MatchExactly).value(0);
+        const QStringList path = name.split(QLatin1Char('/'));
+        QTreeWidgetItem *item = m_pane->findItems(path.first(), Qt::MatchExactly).value(0);
+        for (int i = 1; item && i < path.size(); ++i) {
+            item->setExpanded(true);
+            QTreeWidgetItem *parent = item;
+            item = nullptr;
+            for (int c = 0; c < parent->childCount(); ++c) {
+                if (parent->child(c)->text(0) == path.at(i))
+                    item = parent->child(c);
+            }
+        }
+        return item;
     }
     void openPropertyEditor(const QString &name)
     {

@@ -547,6 +547,65 @@ private slots:
         QCOMPARE(form->contents(), after);
     }
 
+    void translationMarks_data() { editingThroughTheContextMenu_data(); }
+
+    // How an entry's text and tool tip are marked for translation is set in the pane, saved
+    // with the form, undone to the byte, and shown again in the editor of the form reopened.
+    void translationMarks()
+    {
+        QFETCH(int, index);
+        const Family &family = families[index];
+        const QString text = QLatin1String(family.list ? "B" : "a");
+        const QString tip = QLatin1String(family.list ? "tipB" : "tipa");
+        // The page group's editor offers a tool tip but keeps titles only.
+        const QStringList tips = family.shown == shownByPageGroup
+                ? QStringList()
+                : family.properties.filter(QRegularExpression(QStringLiteral("^tool[tT]ip$")));
+        const auto pick = [&family](Driver &dialog) {
+            if (family.list)
+                dialog.select(1);
+            else
+                dialog.selectCell(0, 0);
+        };
+        QDesignerFormWindowInterface *form = createFormWindow(familyForm(family));
+        const auto closeForm = qScopeGuard([form] { closeFormWindow(form); });
+        const QString original = form->contents();
+        QVERIFY(edit(formChild(form, "edited"), [&](Driver &dialog) {
+            pick(dialog);
+            dialog.typeProperty(QStringLiteral("text/disambiguation"), QStringLiteral("menu"));
+            dialog.typeProperty(QStringLiteral("text/comment"), QStringLiteral("note"));
+            for (const QString &name : tips)
+                dialog.toggleProperty(name + QStringLiteral("/translatable"));
+        }));
+        const QString marked = form->contents();
+        QVERIFY2(marked.contains(QStringLiteral("comment=\"menu\" extracomment=\"note\">%1</string>")
+                                         .arg(text)),
+                 qPrintable(marked));
+        if (!tips.isEmpty())
+            QVERIFY2(marked.contains(QStringLiteral("notr=\"true\">%1</string>").arg(tip)),
+                     qPrintable(marked));
+
+        QUndoStack *history = form->commandHistory();
+        history->setIndex(0);
+        QCOMPARE(comparable(family, form->contents()), comparable(family, original));
+        history->setIndex(history->count());
+        QCOMPARE(form->contents(), marked);
+
+        QDesignerFormWindowInterface *reopened = createFormWindow(marked);
+        const auto closeReopened = qScopeGuard([reopened] { closeFormWindow(reopened); });
+        QCOMPARE(reopened->contents(), marked);
+        const auto shown = [&](Driver &dialog) {
+            pick(dialog);
+            QCOMPARE(dialog.propertyValue(QStringLiteral("text/disambiguation")),
+                     QStringLiteral("menu"));
+            QCOMPARE(dialog.propertyValue(QStringLiteral("text/comment")), QStringLiteral("note"));
+            for (const QString &name : tips)
+                QCOMPARE(dialog.propertyValue(name + QStringLiteral("/translatable")),
+                         QStringLiteral("False"));
+        };
+        QVERIFY(edit(formChild(reopened, "edited"), shown, false));
+    }
+
     void pageGroupKeepsItsPageObjects()
     {
         QDesignerFormWindowInterface *form = createFormWindow(familyForm(pageGroupFamily));

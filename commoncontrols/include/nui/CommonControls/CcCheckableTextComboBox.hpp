@@ -3,6 +3,7 @@
 #include "CcGlobal.hpp"
 
 #include <QStringList>
+#include <QVariantMap>
 #include <QWidget>
 
 class QComboBox;
@@ -27,6 +28,9 @@ public:
     void setItemTextList(const QStringList &texts);
     QStringList toolTips() const;
     void setToolTips(const QStringList &toolTips);
+    // How the entries' texts and tool tips are marked for translation (see AbstractOptions).
+    Q_INVOKABLE QVariantList stringAttributes(const QString &list) const;
+    Q_INVOKABLE void setStringAttributes(const QString &list, const QVariantList &attributes);
 
     bool isChecked(int index) const;
     void setChecked(int index, bool checked);
@@ -51,6 +55,7 @@ private:
     // The texts to check, kept across a change of the entries (and set before any exist).
     QStringList m_checkedTexts;
     bool m_updating = false;
+    QVariantMap m_stringAttributes;
 };
 
 } // namespace VoCc

@@ -4,6 +4,7 @@
 
 #include <QList>
 #include <QStringList>
+#include <QVariantMap>
 #include <QWidget>
 
 #include <memory>
@@ -44,6 +45,9 @@ public:
     void setIconList(const QStringList &iconPaths);
     QStringList toolTips() const;
     void setToolTips(const QStringList &toolTips);
+    // How the entries' texts and tool tips are marked for translation (see AbstractOptions).
+    Q_INVOKABLE QVariantList stringAttributes(const QString &list) const;
+    Q_INVOKABLE void setStringAttributes(const QString &list, const QVariantList &attributes);
     QStringList actionList() const;
     void setActionList(const QStringList &actions);
 
@@ -72,6 +76,7 @@ private:
     std::unique_ptr<GridCells> m_cells;
     int m_rows = 2;
     int m_columns = 2;
+    QVariantMap m_stringAttributes;
 };
 
 } // namespace VoCc

@@ -3,6 +3,7 @@
 #include "../CcGlobal.hpp"
 
 #include <QStringList>
+#include <QVariantMap>
 #include <QWidget>
 
 namespace VoCc {
@@ -27,6 +28,12 @@ public:
     void setIconList(const QStringList &iconPaths);
     QStringList toolTips() const;
     void setToolTips(const QStringList &toolTips);
+    // How the entries' texts and tool tips are marked for translation, as a form file marks
+    // them: for the list "text" or "toolTip", one map per entry with any of "notr" (true: not
+    // to be translated), "comment" (the disambiguation), "extracomment" (a note for the
+    // translator) and "id". An empty map, or none, is a plain translatable text.
+    Q_INVOKABLE QVariantList stringAttributes(const QString &list) const;
+    Q_INVOKABLE void setStringAttributes(const QString &list, const QVariantList &attributes);
     virtual QStringList dataList() const;
     virtual void setDataList(const QStringList &data);
 
@@ -66,6 +73,7 @@ private:
     QStringList m_dataList;
     int m_currentIndex = -1;
     int m_pendingIndex = -1;
+    QVariantMap m_stringAttributes;
 };
 
 } // namespace VoCc
