@@ -4,6 +4,7 @@
 // or a warning says what is left out.
 
 #include "designertestcore.h"
+#include "linguistmessages.h"
 #include "uixml.h"
 #include "warninglog.h"
 
@@ -23,6 +24,51 @@ void oddForm(const char *row, const char *className, const QString &inner, const
 {
     QTest::newRow(row) << CcTest::widgetXml(className, "odd", inner) << QString(held)
                        << QString(named);
+}
+
+// A string marked as a form author marks one for translation.
+QString markedString(const char *text, const char *attributes)
+{
+    return QStringLiteral("<string %1>%2</string>").arg(QLatin1String(attributes), QLatin1String(text));
+}
+QString markedProperty(const char *name, const char *text, const char *attributes)
+{
+    return QStringLiteral("<property name=\"%1\">%2</property>")
+            .arg(QLatin1String(name), markedString(text, attributes));
+}
+
+// Every list family with texts and tool tips marked every way the format allows: a
+// disambiguation, a translator's comment, an id, not to be translated.
+QString markedEntries()
+{
+    const char *commented = "comment=\"menu\" extracomment=\"note\" id=\"cc.%1\"";
+    const auto marked = [commented](const char *name, const char *text, const char *id) {
+        return markedProperty(name, text, qPrintable(QString::fromLatin1(commented).arg(QLatin1String(id))));
+    };
+    const QString untranslated = markedProperty("toolTip", "tip code", "notr=\"true\"");
+    const QString options = itemXml(marked("text", "Alpha", "alpha") + untranslated)
+            + itemXml(markedProperty("text", "Beta", "notr=\"true\"")
+                      + marked("toolTip", "Beta tip", "beta.tip"));
+    const QString grid = propertyXml("row", "1", "number") + propertyXml("column", "2", "number");
+    QString body;
+    for (const char *className : {"VoCc::OptionButtons", "VoCc::OptionRadios",
+                                  "VoCc::CheckableTextComboBox"})
+        body += CcTest::widgetXml(className, className + 6, options);
+    body += CcTest::widgetXml("VoCc::OptionComboBox", "optionCombo",
+                              itemXml(marked("text", "Gamma", "gamma")));
+    body += CcTest::widgetXml("VoCc::ComboBox", "combo", itemXml(marked("text", "Delta", "delta")));
+    body += CcTest::widgetXml("VoCc::MatrixPushButtons", "matrix", grid + options);
+    body += CcTest::widgetXml(
+            "VoCc::MatrixPopButtons", "popButtons",
+            grid
+                    + QStringLiteral("<property name=\"textList\"><stringlist comment=\"menu\" "
+                                     "extracomment=\"grid\"><string>One</string><string>Two"
+                                     "</string></stringlist></property>")
+                    + itemXml(untranslated));
+    body += CcTest::widgetXml("VoCc::DrawbackBoxGroup", "group",
+                              CcTest::widgetXml("QWidget", "page",
+                                                marked("windowTitle", "Page title", "page")));
+    return CcTest::formXml(body, CcTest::pageGroupDeclaration());
 }
 
 } // namespace
@@ -49,6 +95,27 @@ private slots:
         QDesignerFormWindowInterface *form = CcTest::createFormWindow(original);
         QCOMPARE(form->contents(), original);
         CcTest::closeFormWindow(form);
+    }
+
+    void translationMarksSurviveDesigner()
+    {
+        // lupdate finds the same messages in a form before and after Designer saved it: the
+        // texts and tool tips of every family with their disambiguations and comments, and
+        // none of the strings marked not to be translated. lupdate does not report ids from
+        // forms; the saved form holds every one.
+        const QString original = markedEntries();
+        const QStringList before = CcTest::linguistMessages(original);
+        QVERIFY2(before.contains(QStringLiteral("Alpha | menu | note | ")),
+                 qPrintable(before.join(QLatin1Char('\n'))));
+        QVERIFY(before.contains(QStringLiteral("One | menu | grid | ")));
+        QVERIFY(before.filter(QStringLiteral("code")).isEmpty());
+        QDesignerFormWindowInterface *form = CcTest::createFormWindow(original);
+        const QString saved = form->contents();
+        CcTest::closeFormWindow(form);
+        QCOMPARE(CcTest::linguistMessages(saved), before);
+        const QRegularExpression ids(QStringLiteral(" id=\"cc\\.[a-z.]+\""));
+        QCOMPARE(saved.count(ids), original.count(ids));
+        QCOMPARE(saved.count(ids), 11);
     }
 
     void keptOrSaid_data()
