@@ -17,7 +17,9 @@ namespace VoCc {
 // The entries of the list-like widgets travel in the form file as <item> elements of the
 // widget, each with <property> children "data", "text", "icon" (a pixmap path), "toolTip"
 // and "action", written in that order as <string> values: texts and tool tips with
-// notr="false", data, icon paths and action names with notr="true". An absent property is
+// notr="false", data, icon paths and action names with notr="true". A text or tool tip marked
+// for translation (the widgets' stringAttributes()) carries the marks as Qt's .ui format
+// spells them: notr="true", comment (the disambiguation), extracomment and id. An absent property is
 // an empty entry, so item i holds entry i of every list of the widget, and a widget gets as
 // many items as its longest list has entries:
 //  - OptionComboBox, OptionButtons, OptionRadios, OptionCheckBox: text, icon, toolTip, data;
@@ -30,10 +32,12 @@ namespace VoCc {
 //    are laid out. The lists do not depend on the dimensions: a grid shows its first
 //    row x column entries. Trailing entries that are empty in every list are blank cells
 //    and are not written (the same for MatrixPopButtons).
-//  - MatrixPopButtons: its texts are its "textList" property, never items; its items carry
-//    icon, toolTip and action only, and "row", "column" and "textList" are written as
-//    properties (replacing any already there), so no text is stored twice. When loading a
-//    file without a "textList" property, texts in its items are used instead.
+//  - MatrixPopButtons: its texts are its "textList" property; its items carry icon, toolTip
+//    and action only, and "row", "column" and "textList" are written as properties
+//    (replacing any already there), so no text is stored twice. A string list has one set of
+//    translation marks for all its strings: when the texts are marked differently, they go
+//    into the items instead, each with its own marks, and there is no "textList". When
+//    loading a file without a "textList" property, texts in its items are used.
 //  - ComboBox: its items (text and icon) belong to the form writer (Designer writes them
 //    from the items' display-property roles); saveExtraInfo only puts each item's action
 //    into the <item> elements already there, and never adds or removes an item. On load,
@@ -42,7 +46,8 @@ namespace VoCc {
 //    lists and only show the first 1,000 characters).
 //  - DrawbackBoxGroup: the pages are child widgets whose window titles are the page titles;
 //    saveExtraInfo writes "currentIndex" and each titled page's "windowTitle" (replacing
-//    any already there). On load, "currentIndex" is applied again once the pages exist.
+//    one with another text; one with the same text stays, with its translation marks). On
+//    load, "currentIndex" is applied again once the pages exist.
 //
 // saveExtraInfo replaces what it wrote before, so saving the same element again adds
 // nothing. loadExtraInfo ignores unknown properties and items of widgets it does not know,
