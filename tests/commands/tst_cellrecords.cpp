@@ -1,4 +1,8 @@
+#include "entrystringattributes.h"
 #include "matrixcontents.h"
+#include "warninglog.h"
+
+#include <nui/CommonControls/CcMatrixPopButtons.hpp>
 
 #include <QtDesigner/private/qdesigner_utils_p.h>
 #include <QtDesigner/private/shared_enums_p.h>
@@ -54,6 +58,11 @@ private slots:
         QTest::newRow("all four") << all << false << QList<int>({27, 28, 29, action});
         QTest::newRow("all four, editor")
                 << all << true << QList<int>({27, 28, 29, action, flagsRole});
+        const QVariantMap notr = {{"notr", true}};
+        const QVariantMap commented = {{"comment", "menu"}, {"extracomment", "note"}, {"id", "x"}};
+        QTest::newRow("marked for translation")
+                << CellStrings {"Open", {}, "tip", {}, notr, commented} << false
+                << QList<int>({27, 29});
     }
 
     void stringsToRecordAndBack()
@@ -69,7 +78,13 @@ private slots:
         if (record.contains(action))
             QCOMPARE(qvariant_cast<PropertySheetStringValue>(record.value(action)),
                      PropertySheetStringValue(strings.action));
-        QCOMPARE(listed(CellRecords::toStrings(record)), listed(strings));
+        const CellStrings back = CellRecords::toStrings(record);
+        QCOMPARE(listed(back), listed(strings));
+        QCOMPARE(back.textAttributes, strings.textAttributes);
+        QCOMPARE(back.toolTipAttributes, strings.toolTipAttributes);
+        if (!strings.text.isEmpty())
+            QCOMPARE(qvariant_cast<PropertySheetStringValue>(record.value(27)).translatable(),
+                     !strings.textAttributes.value("notr").toBool());
     }
 
     void itemToRecordAndBack()
@@ -125,6 +140,15 @@ private slots:
         QCOMPARE(icons, QStringList({"", "", "", icon, "", ""}));
         QCOMPARE(tips, QStringList({"", "", "", "tip", "", ""}));
         QCOMPARE(actions, QStringList({"", "", "", "act", "", ""}));
+        // Translation marks laid out as the lists, or none at all where nothing is marked.
+        QVariantList textMarks, tipMarks;
+        contents.toAttributeLists(&textMarks, &tipMarks);
+        QVERIFY(textMarks.isEmpty() && tipMarks.isEmpty());
+        contents.cells[{0, 2}] = CellRecords::fromStrings({"c", {}, {}, {}, {{"id", "c"}}}, true);
+        contents.toAttributeLists(&textMarks, &tipMarks);
+        QCOMPARE(textMarks, QVariantList({QVariantMap(), QVariantMap(), QVariantMap({{"id", "c"}}),
+                                          QVariantMap(), QVariantMap(), QVariantMap()}));
+        QVERIFY(tipMarks.isEmpty());
 
         // Through a table and back, the same cells; a cell without an item reads as a new one's.
         QTableWidget table;
@@ -140,6 +164,22 @@ private slots:
         QVERIFY(!sameCells(back, contents));
         back.clear();
         QVERIFY(back.cells.isEmpty() && back.rowCount == 0 && back.columnCount == 0);
+    }
+
+    void stringAttributesByName()
+    {
+        // The library's widgets take and give back the marks through their meta-object; an
+        // object without the functions gives none, and no call (so no warning) is made.
+        const QVariantList marks = {QVariantMap({{"notr", true}}), QVariantMap()};
+        VoCc::MatrixPopButtons matrix;
+        EntryStringAttributes::write(&matrix, EntryStringAttributes::toolTips, marks);
+        QCOMPARE(EntryStringAttributes::read(&matrix, EntryStringAttributes::toolTips), marks);
+        QVERIFY(EntryStringAttributes::read(&matrix, EntryStringAttributes::texts).isEmpty());
+        const CcTest::WarningLog log;
+        QObject plain;
+        EntryStringAttributes::write(&plain, EntryStringAttributes::texts, marks);
+        QVERIFY(EntryStringAttributes::read(&plain, EntryStringAttributes::texts).isEmpty());
+        QCOMPARE(log.warnings, QStringList());
     }
 };
 
