@@ -21,3 +21,17 @@ function(cc_add_qtest name)
     endif()
     set_tests_properties(${name} PROPERTIES ENVIRONMENT "${env}" TIMEOUT ${ARG_TIMEOUT})
 endfunction()
+
+# cc_find_linguist_tools(): Qt's lupdate and lrelease of the Qt in use, as the imported targets
+# CC_LUPDATE and CC_LRELEASE name (the translation tests and benchmark run them). A missing one
+# stops the configuration.
+macro(cc_find_linguist_tools)
+    find_package(Qt${CC_QT_MAJOR} QUIET COMPONENTS LinguistTools)
+    set(CC_LUPDATE Qt${CC_QT_MAJOR}::lupdate)
+    set(CC_LRELEASE Qt${CC_QT_MAJOR}::lrelease)
+    if(NOT TARGET ${CC_LUPDATE} OR NOT TARGET ${CC_LRELEASE})
+        message(FATAL_ERROR "Qt ${CC_QT_MAJOR}'s lupdate and lrelease are missing: install "
+            "qttools5-dev-tools (Qt 5) or qt6-l10n-tools (Qt 6), or configure with "
+            "-DCC_BUILD_TESTS=OFF -DCC_BUILD_BENCHMARKS=OFF")
+    endif()
+endmacro()

@@ -3,6 +3,8 @@
 // matrices at 10 x 10, 99 x 99 and a form asking for 65,536 x 65,536, each against a
 // VoCc::ComboBox with as many entries in the same run. Prints medians and ratios; a last row
 // puts the page group's pages in a QStackedWidget, for what the form's page widgets cost alone.
+// Last, forms of 100,000 entries loaded with translation on against off, with a translator
+// installed that translates every text of the form.
 
 #include "benchsupport.h"
 
@@ -10,7 +12,11 @@
 
 #include <QApplication>
 #include <QBuffer>
+#include <QFile>
+#include <QProcess>
 #include <QScopedPointer>
+#include <QTemporaryDir>
+#include <QTranslator>
 #include <QWidget>
 #include <cstdio>
 #include <cstdlib>
@@ -86,11 +92,12 @@ void countWarnings(QtMsgType type, const QMessageLogContext &, const QString &)
 }
 
 // Milliseconds to load the form and show it; the form is deleted outside the time.
-double loadOnce(const QByteArray &xml)
+double loadOnce(const QByteArray &xml, bool translate = true)
 {
     QScopedPointer<QWidget> form;
     const double ms = Bench::timeIt([&] {
         VoCc::FormBuilder builder;
+        builder.setTranslationEnabled(translate);
         QBuffer buffer;
         buffer.setData(xml);
         buffer.open(QIODevice::ReadOnly);
@@ -118,6 +125,42 @@ QPair<double, double> compare(const QByteArray &baseline, const QByteArray &meas
     return {Bench::median(base), Bench::median(mine)};
 }
 
+// The form of a widget with count entries, as the class "Form" whose texts lupdate would put
+// in that context.
+QByteArray translatableForm(const char *className, int count)
+{
+    return listForm(className, count)
+            .replace(QStringLiteral("<ui version=\"4.0\">\n"),
+                     QStringLiteral("<ui version=\"4.0\">\n <class>Form</class>\n"))
+            .toUtf8();
+}
+
+// A translation of "Entry 0" to "Entry <count - 1>" in the context "Form", made by lrelease
+// from a .ts written here. Exits when lrelease fails.
+void loadTranslation(QTranslator *translator, const QTemporaryDir &folder, int count)
+{
+    const QString ts = folder.filePath(QStringLiteral("entries.ts"));
+    const QString qm = folder.filePath(QStringLiteral("entries.qm"));
+    QFile file(ts);
+    if (!file.open(QIODevice::WriteOnly))
+        std::exit(1);
+    QByteArray xml = "<?xml version=\"1.0\" encoding=\"utf-8\"?>\n<!DOCTYPE TS>\n"
+                     "<TS version=\"2.1\" language=\"fr\">\n<context>\n<name>Form</name>\n";
+    for (int i = 0; i < count; ++i)
+        xml += "<message><source>Entry " + QByteArray::number(i)
+                + "</source><translation>Entr\xc3\xa9e " + QByteArray::number(i)
+                + "</translation></message>\n";
+    xml += "</context>\n</TS>\n";
+    file.write(xml);
+    file.close();
+    QProcess lrelease;
+    lrelease.start(QStringLiteral(CC_LRELEASE), {ts, QStringLiteral("-qm"), qm});
+    if (!lrelease.waitForFinished(600000) || lrelease.exitCode() != 0 || !translator->load(qm)) {
+        std::fprintf(stderr, "bench_loading: lrelease could not make %s\n", qPrintable(qm));
+        std::exit(1);
+    }
+}
+
 const char *const listFamilies[] = {
         "VoCc::CheckableTextComboBox", "VoCc::OptionComboBox",   "VoCc::OptionButtons",
         "VoCc::OptionRadios",          "VoCc::OptionCheckBox",   "VoCc::MatrixPushButtons",
@@ -134,6 +177,41 @@ const char *const matrices[] = {
 
 int runsFor(int entries) { return entries >= 100000 ? 3 : 5; }
 
+// Prints the loads with translation on against off; returns the exit code.
+int translationRatios()
+{
+    // Translation: every entry's text is looked up in a translation that has them all.
+    const int translated = 100000;
+    QTemporaryDir folder;
+    QTranslator translator;
+    loadTranslation(&translator, folder, translated);
+    QCoreApplication::installTranslator(&translator);
+    std::printf("Loading with translation on (every text translated) against off, %d entries, "
+                "medians of 5 runs\n",
+                translated);
+    double worstTranslation = 0;
+    for (const char *family : {"VoCc::OptionButtons", "VoCc::ComboBox", "VoCc::OptionRadios",
+                               "VoCc::CheckableTextComboBox", "VoCc::MatrixPopButtons"}) {
+        const QByteArray form = translatableForm(family, translated);
+        QList<double> off, on;
+        loadOnce(form, false);
+        loadOnce(form, true);
+        for (int i = 0; i < 5; ++i) {
+            off << loadOnce(form, false);
+            on << loadOnce(form, true);
+        }
+        const double ratio = Bench::median(on) / Bench::median(off);
+        worstTranslation = qMax(worstTranslation, ratio);
+        std::printf("  %-28s %8.1f ms vs %8.1f %5.2fx\n", family, Bench::median(on),
+                    Bench::median(off), ratio);
+        std::fflush(stdout);
+    }
+    std::printf("Worst ratio of translation on to off: %.2fx (target <= 1.30)\n", worstTranslation);
+    QCoreApplication::removeTranslator(&translator);
+
+    return 0;
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -142,6 +220,9 @@ int main(int argc, char **argv)
     qInstallMessageHandler(countWarnings);
     const int sizes[] = {1000, 10000, 100000};
     double worst = 0;
+    // "--translation" measures the translated loads only.
+    if (QCoreApplication::arguments().contains(QStringLiteral("--translation")))
+        return translationRatios();
 
     std::printf("Loading through VoCc::FormBuilder (load and show), medians of 5 runs (3 at "
                 "100,000): each cell is the widget's time vs a VoCc::ComboBox with as many "
@@ -194,6 +275,7 @@ int main(int argc, char **argv)
             std::fflush(stdout);
         }
     }
+    translationRatios();
     std::printf("Worst ratio at 100,000 entries: %.2fx (target <= 2.00); peak memory %lld MiB\n",
                 worst, Bench::peakMemoryKiB() / 1024);
     return 0;

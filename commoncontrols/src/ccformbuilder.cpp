@@ -2,6 +2,7 @@
 
 #include "ccdomentries.h"
 #include "ccentrylists.h"
+#include "ccformtranslator.h"
 #include "nui/CommonControls/CcColorButton.hpp"
 #include "nui/CommonControls/CcColorPanel.hpp"
 #include "nui/CommonControls/CcColorPicker.hpp"
@@ -519,6 +520,28 @@ QWidget *FormBuilder::createWidget(const QString &widgetName, QWidget *parentWid
     return widget;
 }
 
+void FormBuilder::setTranslationEnabled(bool enabled) { m_translationEnabled = enabled; }
+
+bool FormBuilder::isTranslationEnabled() const { return m_translationEnabled; }
+
+void FormBuilder::setLanguageChangeEnabled(bool enabled) { m_languageChangeEnabled = enabled; }
+
+bool FormBuilder::isLanguageChangeEnabled() const { return m_languageChangeEnabled; }
+
+QWidget *FormBuilder::create(DomUI *ui, QWidget *parentWidget)
+{
+    if (!m_translationEnabled)
+        return QFormBuilder::create(ui, parentWidget);
+    // The texts are translated in the document, before any widget exists, so that each
+    // widget is built once and already shows them translated.
+    FormTranslator translator(ui->elementClass(), m_languageChangeEnabled);
+    translator.translate(ui);
+    m_translator = &translator;
+    QWidget *widget = QFormBuilder::create(ui, parentWidget);
+    m_translator = nullptr;
+    return widget;
+}
+
 QWidget *FormBuilder::create(DomWidget *domWidget, QWidget *parentWidget)
 {
     if (domWidget->attributeClass() == QLatin1String("VoCc::ComboBox"))
@@ -526,6 +549,8 @@ QWidget *FormBuilder::create(DomWidget *domWidget, QWidget *parentWidget)
     QWidget *widget = QFormBuilder::create(domWidget, parentWidget);
     if (widget)
         loadExtraInfo(domWidget, widget, nullptr);
+    if (widget && m_translator)
+        m_translator->watch(domWidget, widget);
     return widget;
 }
 

@@ -16,8 +16,15 @@ function(expect_failure code pattern)
     endif()
 endfunction()
 
-expect_failure(1 "usage: ccpreview form.ui out.png")
+expect_failure(1 "usage: ccpreview \\[--translation file.qm\\] form.ui out.png")
 expect_failure(1 "usage:" "${DATA}/malformed.ui")
+expect_failure(1 "usage:" --translation)
+expect_failure(1 "usage:" --translation "${DATA}/no-such.qm" "${DATA}/malformed.ui")
+# A translation that is missing, or not a translation file at all.
+expect_failure(1 "cannot load the translation .*no-such.qm"
+    --translation "${DATA}/no-such.qm" "${DATA}/malformed.ui" "${OUTPUT}")
+expect_failure(1 "cannot load the translation .*notaform.xml"
+    --translation "${DATA}/notaform.xml" "${DATA}/malformed.ui" "${OUTPUT}")
 expect_failure(2 "cannot open .*no-such-form.ui" "${DATA}/no-such-form.ui" "${OUTPUT}")
 expect_failure(3 "malformed.ui is not a form: line [0-9]+, column [0-9]+" "${DATA}/malformed.ui" "${OUTPUT}")
 expect_failure(3 "root element is <html>, not <ui>" "${DATA}/notaform.xml" "${OUTPUT}")

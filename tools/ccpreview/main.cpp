@@ -1,13 +1,15 @@
-// ccpreview form.ui out.png
+// ccpreview [--translation file.qm] form.ui out.png
 //
 // Loads a form through the CommonControls form builder, without any Designer plug-in, and
-// writes a PNG of it. Runs offscreen unless a platform is chosen. Exit codes: 0 done,
-// 1 usage, 2 missing or unreadable file, 3 malformed form, 4 unknown widget class,
-// 5 image not written.
+// writes a PNG of it. Runs offscreen unless a platform is chosen. With --translation, the
+// translation file is installed first and the form shows its texts translated. Exit codes:
+// 0 done, 1 usage (also a translation file that is missing or cannot be loaded), 2 missing
+// or unreadable form, 3 malformed form, 4 unknown widget class, 5 image not written.
 #include "formpreview.h"
 
 #include <QApplication>
 #include <QTextStream>
+#include <QTranslator>
 
 int main(int argc, char *argv[])
 {
@@ -16,10 +18,26 @@ int main(int argc, char *argv[])
     QApplication app(argc, argv);
     QTextStream err(stderr);
 
-    const QStringList arguments = QApplication::arguments().mid(1);
+    QStringList arguments = QApplication::arguments().mid(1);
+    QString translationFile;
+    if (!arguments.isEmpty() && arguments.first() == QLatin1String("--translation")) {
+        arguments.removeFirst();
+        if (!arguments.isEmpty())
+            translationFile = arguments.takeFirst();
+        if (translationFile.isEmpty())
+            arguments.clear(); // the usage below
+    }
     if (arguments.size() != 2) {
-        err << "usage: ccpreview form.ui out.png\n";
+        err << "usage: ccpreview [--translation file.qm] form.ui out.png\n";
         return FormPreview::UsageError;
+    }
+    QTranslator translator;
+    if (!translationFile.isEmpty()) {
+        if (!translator.load(translationFile)) {
+            err << "ccpreview: cannot load the translation " << translationFile << '\n';
+            return FormPreview::UsageError;
+        }
+        QApplication::installTranslator(&translator);
     }
 
     FormPreview preview;

@@ -7,10 +7,13 @@
 
 QT_BEGIN_NAMESPACE
 class DomProperty;
+class DomUI;
 class DomWidget;
 QT_END_NAMESPACE
 
 namespace VoCc {
+
+class FormTranslator;
 
 // Loads and saves forms that use the CommonControls widgets, without any Designer plug-in.
 //
@@ -78,6 +81,19 @@ public:
     // Makes a widget of one of those classes, or returns null for any other name.
     static QWidget *createCommonControl(const QString &className, QWidget *parent);
 
+    // Whether loading translates the form's texts (on by default): each string not marked
+    // notr="true" becomes QCoreApplication::translate(form class, text, comment), the form
+    // class being the <class> element of the .ui, as lupdate writes the contexts. Entry
+    // texts and tool tips of the library's list-like widgets are translated too; their data,
+    // icon paths and action names never are.
+    void setTranslationEnabled(bool enabled);
+    bool isTranslationEnabled() const;
+    // Whether a loaded form translates its texts again, from their sources, each time its
+    // widgets receive QEvent::LanguageChange (a translator installed or removed); off by
+    // default. The source texts are kept only when this is on.
+    void setLanguageChangeEnabled(bool enabled);
+    bool isLanguageChangeEnabled() const;
+
     // Classes named by the last loaded form that neither this builder nor Qt could create
     // (the loader then puts a widget of the declared base class in their place).
     QStringList unknownClassNames() const;
@@ -85,6 +101,7 @@ public:
 protected:
     QWidget *createWidget(const QString &widgetName, QWidget *parentWidget,
                           const QString &name) override;
+    QWidget *create(DomUI *ui, QWidget *parentWidget) override;
     QWidget *create(DomWidget *domWidget, QWidget *parentWidget) override;
     using QFormBuilder::create;
     bool addItem(DomWidget *domWidget, QWidget *widget, QWidget *parentWidget) override;
@@ -98,6 +115,10 @@ protected:
 private:
     QStringList m_unknownClassNames;
     QString m_errorString;
+    bool m_translationEnabled = true;
+    bool m_languageChangeEnabled = false;
+    // Only while a form is being built.
+    FormTranslator *m_translator = nullptr;
 };
 
 } // namespace VoCc

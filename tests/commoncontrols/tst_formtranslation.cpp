@@ -1,0 +1,477 @@
+// Forms translated by VoCc::FormBuilder: Qt's lupdate reads the example form and a form of Qt's
+// own widgets, each message gets a translation, lrelease makes the .qm files, and the loaded
+// forms show every text translated, at load and again on a language change.
+#include <nui/CommonControls/CcCheckableTextComboBox.hpp>
+#include <nui/CommonControls/CcFormBuilder.hpp>
+#include <nui/CommonControls/CcLineEditEx.hpp>
+#include <nui/CommonControls/CcMatrixButtons.hpp>
+#include <nui/CommonControls/CcMatrixPopButtons.hpp>
+#include <nui/CommonControls/template/CcAbstractOptions.hpp>
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QComboBox>
+#include <QFile>
+#include <QMetaProperty>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QScopedPointer>
+#include <QSet>
+#include <QTabBar>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QToolBox>
+#include <QTranslator>
+#include <QXmlStreamReader>
+
+using namespace VoCc;
+
+namespace {
+
+const QString exampleForm = QStringLiteral(CC_EXAMPLE_FORM);
+const QString qtWidgetsForm = QStringLiteral(CC_QT_WIDGETS_FORM);
+
+// The two translations every message gets.
+QString first(const QString &source) { return QStringLiteral("«%1»").arg(source); }
+QString second(const QString &source) { return QStringLiteral("‹%1›").arg(source); }
+
+// A message of a .ts file: the form class it belongs to, its text and its comment.
+struct Message
+{
+    QString context;
+    QString source;
+    QString comment;
+    bool operator==(const Message &other) const
+    {
+        return context == other.context && source == other.source && comment == other.comment;
+    }
+};
+using HashValue = decltype(::qHash(QString()));
+HashValue qHash(const Message &message, HashValue seed = 0)
+{
+    return ::qHash(message.context + QLatin1Char('\n') + message.source + QLatin1Char('\n')
+                           + message.comment,
+                   seed);
+}
+
+QVector<Message> readMessages(const QString &tsFile)
+{
+    QFile file(tsFile);
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    QXmlStreamReader reader(&file);
+    QVector<Message> messages;
+    QString context;
+    while (!reader.atEnd()) {
+        reader.readNext();
+        if (!reader.isStartElement())
+            continue;
+        if (reader.name() == QLatin1String("name"))
+            context = reader.readElementText();
+        else if (reader.name() == QLatin1String("message"))
+            messages.append({context, QString(), QString()});
+        else if (reader.name() == QLatin1String("source"))
+            messages.last().source = reader.readElementText();
+        else if (reader.name() == QLatin1String("comment"))
+            messages.last().comment = reader.readElementText();
+    }
+    return messages;
+}
+
+// The texts a form marks notr="true", single strings and string lists alike.
+QSet<QString> untranslatedTexts(const QString &form)
+{
+    QFile file(form);
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    QXmlStreamReader reader(&file);
+    QSet<QString> texts;
+    bool inUntranslatedList = false;
+    while (!reader.atEnd()) {
+        reader.readNext();
+        if (reader.isEndElement() && reader.name() == QLatin1String("stringlist"))
+            inUntranslatedList = false;
+        if (!reader.isStartElement())
+            continue;
+        const bool notr = reader.attributes().value(QLatin1String("notr")) == QLatin1String("true");
+        if (reader.name() == QLatin1String("stringlist"))
+            inUntranslatedList = notr;
+        else if (reader.name() == QLatin1String("string") && (notr || inUntranslatedList))
+            texts.insert(reader.readElementText());
+    }
+    return texts;
+}
+
+QString runTool(const QString &program, const QStringList &arguments)
+{
+    QProcess process;
+    process.start(program, arguments);
+    if (!process.waitForFinished(60000) || process.exitStatus() != QProcess::NormalExit
+        || process.exitCode() != 0)
+        return QStringLiteral("%1 %2 failed: %3")
+                .arg(program, arguments.join(QLatin1Char(' ')),
+                     QString::fromLocal8Bit(process.readAllStandardError()));
+    return QString();
+}
+
+void addProperties(const QObject *object, QStringList &texts)
+{
+    const QMetaObject *meta = object->metaObject();
+    for (int i = 0; i < meta->propertyCount(); ++i) {
+        const QMetaProperty property = meta->property(i);
+        if (qstrcmp(property.name(), "objectName") == 0 || !property.isReadable())
+            continue;
+        if (property.userType() == QMetaType::QString)
+            texts.append(property.read(object).toString());
+        else if (property.userType() == QMetaType::QStringList)
+            texts.append(property.read(object).toStringList());
+    }
+}
+
+void addModel(const QAbstractItemModel *model, const QModelIndex &parent, QStringList &texts)
+{
+    const int roles[] = {Qt::DisplayRole, Qt::ToolTipRole, Qt::StatusTipRole, Qt::WhatsThisRole};
+    for (int role : roles) {
+        if (!parent.isValid()) {
+            for (int column = 0; column < model->columnCount(); ++column)
+                texts.append(model->headerData(column, Qt::Horizontal, role).toString());
+            for (int row = 0; row < model->rowCount(); ++row)
+                texts.append(model->headerData(row, Qt::Vertical, role).toString());
+        }
+        for (int row = 0; row < model->rowCount(parent); ++row) {
+            for (int column = 0; column < model->columnCount(parent); ++column)
+                texts.append(model->index(row, column, parent).data(role).toString());
+        }
+    }
+    for (int row = 0; row < model->rowCount(parent); ++row) {
+        const QModelIndex child = model->index(row, 0, parent);
+        if (model->hasChildren(child))
+            addModel(model, child, texts);
+    }
+}
+
+// Every text a loaded form shows or holds for showing: the string properties of each of its
+// objects (widgets, the inner widgets of controls, actions), the items of every item view (a
+// combo box's included) and their headers, tab and tool box page texts, and the entry lists
+// of the library's widgets.
+QStringList shownTexts(QWidget *form)
+{
+    QStringList texts;
+    QList<QObject *> objects = form->findChildren<QObject *>();
+    objects.prepend(form);
+    QSet<const QAbstractItemModel *> models;
+    for (QObject *object : qAsConst(objects)) {
+        addProperties(object, texts);
+        // A combo box makes its list view only when it first shows it.
+        if (auto *combo = qobject_cast<QComboBox *>(object)) {
+            if (!models.contains(combo->model())) {
+                models.insert(combo->model());
+                addModel(combo->model(), QModelIndex(), texts);
+            }
+        }
+        if (auto *view = qobject_cast<QAbstractItemView *>(object)) {
+            if (view->model() && !models.contains(view->model())) {
+                models.insert(view->model());
+                addModel(view->model(), QModelIndex(), texts);
+            }
+        } else if (auto *tabs = qobject_cast<QTabBar *>(object)) {
+            for (int i = 0; i < tabs->count(); ++i)
+                texts << tabs->tabText(i) << tabs->tabToolTip(i) << tabs->tabWhatsThis(i);
+        } else if (auto *toolBox = qobject_cast<QToolBox *>(object)) {
+            for (int i = 0; i < toolBox->count(); ++i)
+                texts << toolBox->itemText(i) << toolBox->itemToolTip(i);
+        } else if (auto *options = qobject_cast<AbstractOptions *>(object)) {
+            texts << options->textList() << options->toolTips();
+        } else if (auto *checkCombo = qobject_cast<CheckableTextComboBox *>(object)) {
+            texts << checkCombo->itemTextList() << checkCombo->toolTips();
+        } else if (auto *matrix = qobject_cast<AbstractMatrixOptions *>(object)) {
+            texts << matrix->textList() << matrix->toolTips();
+        } else if (auto *popButtons = qobject_cast<MatrixPopButtons *>(object)) {
+            texts << popButtons->textList() << popButtons->toolTips();
+        }
+    }
+    texts.removeAll(QString());
+    return texts;
+}
+
+// The texts the library's widgets on a form show of their own, whatever the form says (the
+// colour names of a colour picker, the line styles of a line type box...).
+QSet<QString> ownTexts(QWidget *form)
+{
+    QSet<QString> texts;
+    QSet<QString> classes;
+    for (QWidget *widget : form->findChildren<QWidget *>())
+        classes.insert(QLatin1String(widget->metaObject()->className()));
+    for (const QString &className : qAsConst(classes)) {
+        QScopedPointer<QWidget> fresh(FormBuilder::createCommonControl(className, nullptr));
+        if (fresh) {
+            const QStringList shown = shownTexts(fresh.data());
+            texts.unite(QSet<QString>(shown.cbegin(), shown.cend()));
+        }
+    }
+    return texts;
+}
+
+QStringList describe(const QSet<Message> &messages)
+{
+    QStringList texts;
+    for (const Message &message : messages)
+        texts.append(message.context + QLatin1Char('/') + message.source + QLatin1Char('/')
+                     + message.comment);
+    texts.sort();
+    return texts;
+}
+
+QStringList containing(const QStringList &texts, const QString &part)
+{
+    QStringList found;
+    for (const QString &text : texts) {
+        if (text.contains(part))
+            found.append(text);
+    }
+    return found;
+}
+
+// Records what it is asked to translate, and translates nothing.
+class RecordingTranslator : public QTranslator
+{
+public:
+    QString translate(const char *context, const char *sourceText, const char *disambiguation,
+                      int n) const override
+    {
+        Q_UNUSED(n)
+        asked.append({QString::fromUtf8(context), QString::fromUtf8(sourceText),
+                      QString::fromUtf8(disambiguation)});
+        return QString();
+    }
+    mutable QVector<Message> asked;
+};
+
+} // namespace
+
+class TestFormTranslation : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        // The real tools, on the real forms: lupdate writes one .ts for both, each message is
+        // translated twice over, and lrelease makes a .qm of each translation.
+        QVERIFY(m_folder.isValid());
+        const QString ts = m_folder.filePath(QStringLiteral("forms.ts"));
+        QString failure = runTool(QStringLiteral(CC_LUPDATE),
+                                  {exampleForm, qtWidgetsForm, QStringLiteral("-ts"), ts});
+        QVERIFY2(failure.isEmpty(), qPrintable(failure));
+        m_messages = readMessages(ts);
+        QVERIFY(m_messages.size() > 100);
+
+        QFile file(ts);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QString untranslated = QString::fromUtf8(file.readAll());
+        const QRegularExpression unfinished(
+                QStringLiteral("(<source>(.*?)</source>.*?)<translation type=\"unfinished\">"
+                               "</translation>"),
+                QRegularExpression::DotMatchesEverythingOption);
+        const struct
+        {
+            const char *name;
+            const char *translation;
+            QTranslator *translator;
+        } translations[] = {{"first", "\\1<translation>«\\2»</translation>", &m_first},
+                            {"second", "\\1<translation>‹\\2›</translation>", &m_second}};
+        for (const auto &translation : translations) {
+            QString filled = untranslated;
+            filled.replace(unfinished, QString::fromUtf8(translation.translation));
+            QCOMPARE(filled.count(QStringLiteral("<translation>")), m_messages.size());
+            const QString base = m_folder.filePath(QLatin1String(translation.name));
+            QFile out(base + QStringLiteral(".ts"));
+            QVERIFY(out.open(QIODevice::WriteOnly));
+            out.write(filled.toUtf8());
+            out.close();
+            failure = runTool(QStringLiteral(CC_LRELEASE),
+                              {base + QStringLiteral(".ts"), QStringLiteral("-qm"),
+                               base + QStringLiteral(".qm")});
+            QVERIFY2(failure.isEmpty(), qPrintable(failure));
+            QVERIFY(translation.translator->load(base + QStringLiteral(".qm")));
+        }
+    }
+
+    void cleanup()
+    {
+        QCoreApplication::removeTranslator(&m_first);
+        QCoreApplication::removeTranslator(&m_second);
+        QCoreApplication::processEvents();
+    }
+
+    void translatedAtLoad_data()
+    {
+        QTest::addColumn<QString>("form");
+        QTest::addColumn<QString>("context");
+        QTest::addColumn<bool>("enabled");
+        QTest::newRow("library widgets") << exampleForm << "AllWidgets" << true;
+        QTest::newRow("library widgets, translation off") << exampleForm << "AllWidgets" << false;
+        QTest::newRow("Qt widgets") << qtWidgetsForm << "QtWidgetsForm" << true;
+        QTest::newRow("Qt widgets, translation off") << qtWidgetsForm << "QtWidgetsForm" << false;
+    }
+
+    void translatedAtLoad()
+    {
+        QFETCH(QString, form);
+        QFETCH(QString, context);
+        QFETCH(bool, enabled);
+        QScopedPointer<QWidget> plain(load(form, false, false));
+        QVERIFY(plain);
+        const QStringList plainTexts = shownTexts(plain.data());
+
+        QCoreApplication::installTranslator(&m_first);
+        QScopedPointer<QWidget> loaded(load(form, enabled, false));
+        QVERIFY(loaded);
+        const QStringList shown = shownTexts(loaded.data());
+        const QSet<QString> untranslated = untranslatedTexts(form);
+        QVERIFY(!untranslated.isEmpty());
+        const QSet<QString> own = ownTexts(loaded.data());
+        if (!enabled) {
+            QCOMPARE(shown, plainTexts);
+            QCOMPARE(containing(shown, QStringLiteral("«")), QStringList());
+        }
+        for (const Message &message : qAsConst(m_messages)) {
+            if (message.context != context)
+                continue;
+            // Shown translated, and nowhere as it was written (unless a text marked
+            // untranslated, or one a widget shows of its own, is the same).
+            const QString expected = enabled ? first(message.source) : message.source;
+            QVERIFY2(shown.contains(expected), qPrintable(message.source));
+            if (enabled && !untranslated.contains(message.source) && !own.contains(message.source))
+                QVERIFY2(!shown.contains(message.source), qPrintable(message.source));
+        }
+        // What is marked untranslated shows as written.
+        for (const QString &text : untranslated) {
+            QVERIFY2(!shown.contains(first(text)), qPrintable(text));
+            if (plainTexts.contains(text))
+                QVERIFY2(shown.contains(text), qPrintable(text));
+        }
+    }
+
+    void languageChange_data()
+    {
+        QTest::addColumn<QString>("form");
+        QTest::addColumn<QString>("context");
+        QTest::addColumn<bool>("follow");
+        QTest::newRow("library widgets") << exampleForm << "AllWidgets" << true;
+        QTest::newRow("library widgets, not following") << exampleForm << "AllWidgets" << false;
+        QTest::newRow("Qt widgets") << qtWidgetsForm << "QtWidgetsForm" << true;
+        QTest::newRow("Qt widgets, not following") << qtWidgetsForm << "QtWidgetsForm" << false;
+    }
+
+    void languageChange()
+    {
+        QFETCH(QString, form);
+        QFETCH(QString, context);
+        QFETCH(bool, follow);
+        QCoreApplication::installTranslator(&m_first);
+        QScopedPointer<QWidget> loaded(load(form, true, follow));
+        QVERIFY(loaded);
+        const QStringList before = shownTexts(loaded.data());
+
+        QCoreApplication::removeTranslator(&m_first);
+        QCoreApplication::installTranslator(&m_second);
+        settle();
+        const QStringList after = shownTexts(loaded.data());
+        if (!follow) {
+            QCOMPARE(after, before);
+            return;
+        }
+        QCOMPARE(containing(after, QStringLiteral("«")), QStringList());
+        for (const Message &message : qAsConst(m_messages)) {
+            if (message.context == context)
+                QVERIFY2(after.contains(second(message.source)), qPrintable(message.source));
+        }
+        const QSet<QString> untranslated = untranslatedTexts(form);
+        for (const QString &text : untranslated) {
+            QVERIFY2(!after.contains(second(text)), qPrintable(text));
+            QCOMPARE(after.contains(text), before.contains(text));
+        }
+        // The page group's boxes show their pages' new titles.
+        if (form == exampleForm) {
+            const QStringList titles = {second(QStringLiteral("Lists")),
+                                        second(QStringLiteral("Tables")),
+                                        second(QStringLiteral("Notes"))};
+            QStringList boxTitles;
+            for (QObject *box : loaded->findChildren<QObject *>()) {
+                if (box->inherits("VoCc::DrawbackBox"))
+                    boxTitles.append(box->property("title").toString());
+            }
+            QCOMPARE(boxTitles, titles);
+        }
+    }
+
+    void translatorAskedForTranslatableTextsOnly()
+    {
+        // Every translatable text of the forms is asked for in its form's context with its
+        // comment, at load and again on a language change; no text marked untranslated and no
+        // entry data, icon path or action name ever is.
+        QSet<Message> expected;
+        for (const Message &message : qAsConst(m_messages))
+            expected.insert(message);
+        QSet<QString> untranslated =
+                untranslatedTexts(exampleForm) + untranslatedTexts(qtWidgetsForm);
+        for (const Message &message : qAsConst(m_messages))
+            untranslated.remove(message.source);
+        QVERIFY(untranslated.contains(QStringLiteral("Iso")));
+        QVERIFY(untranslated.contains(QStringLiteral("fileOpen")));
+
+        RecordingTranslator recorder;
+        QCoreApplication::installTranslator(&recorder);
+        QScopedPointer<QWidget> example(load(exampleForm, true, true));
+        QScopedPointer<QWidget> qtWidgets(load(qtWidgetsForm, true, true));
+        QVERIFY(example && qtWidgets);
+        for (int round = 0; round < 2; ++round) {
+            QSet<Message> asked;
+            for (const Message &message : qAsConst(recorder.asked)) {
+                QVERIFY2(!untranslated.contains(message.source), qPrintable(message.source));
+                if (message.context == QLatin1String("AllWidgets")
+                    || message.context == QLatin1String("QtWidgetsForm"))
+                    asked.insert(message);
+            }
+            QCOMPARE(describe(asked - expected), QStringList());
+            QCOMPARE(describe(expected - asked), QStringList());
+            // A language change asks again.
+            recorder.asked.clear();
+            QCoreApplication::removeTranslator(&recorder);
+            QCoreApplication::installTranslator(&recorder);
+            settle();
+        }
+        QCoreApplication::removeTranslator(&recorder);
+    }
+
+private:
+    static QWidget *load(const QString &fileName, bool translate, bool follow)
+    {
+        QFile file(fileName);
+        if (!file.open(QIODevice::ReadOnly))
+            return nullptr;
+        FormBuilder builder;
+        builder.setTranslationEnabled(translate);
+        builder.setLanguageChangeEnabled(follow);
+        QWidget *form = builder.load(&file);
+        settle();
+        return form;
+    }
+
+    // Delivers the language change events, and lets the controls that fill their inner
+    // widgets from the event loop do so.
+    static void settle()
+    {
+        for (int i = 0; i < 3; ++i)
+            QCoreApplication::processEvents();
+    }
+
+    QTemporaryDir m_folder;
+    QVector<Message> m_messages;
+    QTranslator m_first;
+    QTranslator m_second;
+};
+
+QTEST_MAIN(TestFormTranslation)
+#include "tst_formtranslation.moc"
