@@ -304,16 +304,21 @@ private slots:
         QCoreApplication::processEvents();
     }
 
-    void translatedAtLoad_data()
+    // Both forms, with a switch on and off.
+    static void formRows(const char *switchName, const char *off)
     {
         QTest::addColumn<QString>("form");
         QTest::addColumn<QString>("context");
-        QTest::addColumn<bool>("enabled");
-        QTest::newRow("library widgets") << exampleForm << "AllWidgets" << true;
-        QTest::newRow("library widgets, translation off") << exampleForm << "AllWidgets" << false;
-        QTest::newRow("Qt widgets") << qtWidgetsForm << "QtWidgetsForm" << true;
-        QTest::newRow("Qt widgets, translation off") << qtWidgetsForm << "QtWidgetsForm" << false;
+        QTest::addColumn<bool>(switchName);
+        for (const bool on : {true, false}) {
+            QTest::newRow(qPrintable(QStringLiteral("library widgets") + (on ? "" : off)))
+                    << exampleForm << "AllWidgets" << on;
+            QTest::newRow(qPrintable(QStringLiteral("Qt widgets") + (on ? "" : off)))
+                    << qtWidgetsForm << "QtWidgetsForm" << on;
+        }
     }
+
+    void translatedAtLoad_data() { formRows("enabled", ", translation off"); }
 
     void translatedAtLoad()
     {
@@ -353,16 +358,7 @@ private slots:
         }
     }
 
-    void languageChange_data()
-    {
-        QTest::addColumn<QString>("form");
-        QTest::addColumn<QString>("context");
-        QTest::addColumn<bool>("follow");
-        QTest::newRow("library widgets") << exampleForm << "AllWidgets" << true;
-        QTest::newRow("library widgets, not following") << exampleForm << "AllWidgets" << false;
-        QTest::newRow("Qt widgets") << qtWidgetsForm << "QtWidgetsForm" << true;
-        QTest::newRow("Qt widgets, not following") << qtWidgetsForm << "QtWidgetsForm" << false;
-    }
+    void languageChange_data() { formRows("follow", ", not following"); }
 
     void languageChange()
     {
