@@ -86,17 +86,25 @@ void initCommand(ChangeDrawbackBoxCommand *command, const DrawbackBoxEditor &edi
     command->init(group, oldContents, newContents, editor.initialOrder(), editor.currentOrder());
 }
 
-template<class Widget, class Contents>
-void afterPush(QDesignerFormWindowInterface *, Widget *, const Contents &)
-{ }
+// Pushes the change on the form's undo stack; pushing runs it.
+template<class Command, class Widget, class Contents>
+void pushChange(QDesignerFormWindowInterface *form, Command *command, Widget *, const Contents &)
+{
+    form->commandHistory()->push(command);
+}
 
 // The button matrices' command leaves the dimensions alone: they go to the form as property
-// changes of their own, rows first.
-void afterPush(QDesignerFormWindowInterface *form, VoCc::AbstractMatrixOptions *matrix,
-               const MatrixContents &contents)
+// changes of their own, rows first. The three make one step, labelled like the change, so
+// one Undo takes the whole edit back.
+void pushChange(QDesignerFormWindowInterface *form, ChangeMatrixBtnsCommand *command,
+                VoCc::AbstractMatrixOptions *matrix, const MatrixContents &contents)
 {
+    QUndoStack *history = form->commandHistory();
+    history->beginMacro(command->text());
+    history->push(command);
     form->cursor()->setWidgetProperty(matrix, QStringLiteral("row"), contents.rowCount);
     form->cursor()->setWidgetProperty(matrix, QStringLiteral("column"), contents.columnCount);
+    history->endMacro();
 }
 
 // The steps every item edit shares.
@@ -115,8 +123,7 @@ void edit(const QPointer<QDesignerFormWindowInterface> &form, Widget *widget)
         return;
     auto *command = new Command(form);
     initCommand(command, editor, widget, oldContents, newContents);
-    form->commandHistory()->push(command);
-    afterPush(form, widget, newContents);
+    pushChange(form, command, widget, newContents);
 }
 
 } // namespace

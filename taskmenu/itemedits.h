@@ -21,7 +21,7 @@ class OptionRadios;
 // and when the user accepts a change, pushes the command that applies it on the form's undo
 // stack. A cancel, an unchanged list, or a form or widget gone while the dialog was open,
 // changes nothing. The push-button, radio-button and check-box matrices also get their new
-// row and column counts as property changes of their own.
+// row and column counts as property changes of their own, in the same undo step.
 void editItems(QPointer<QDesignerFormWindowInterface> form, VoCc::CheckableTextComboBox *widget);
 void editItems(QPointer<QDesignerFormWindowInterface> form, VoCc::ComboBox *widget);
 void editItems(QPointer<QDesignerFormWindowInterface> form, VoCc::OptionComboBox *widget);
