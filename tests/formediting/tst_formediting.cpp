@@ -1,11 +1,14 @@
 // Editing a form as a form author does, in a real Designer core that loads the built module:
-// an item edit is one step of the form's undo history.
+// an item edit is one step of the form's undo history, and the page group's editor makes new
+// pages for new rows whatever was deleted around them.
 
 #include "designertestcore.h"
 #include "itemdialogdriver.h"
 #include "modalanswer.h"
+#include "pagegroup.h"
 #include "uixml.h"
 
+#include <nui/CommonControls/CcDrawbackBoxGroup.hpp>
 #include <nui/CommonControls/CcMatrixButtons.hpp>
 
 #include <QDesignerFormWindowCursorInterface>
@@ -18,6 +21,81 @@ using Driver = ItemDialogDriver;
 namespace {
 
 QString textItem(const char *text) { return itemXml(propertyXml("text", text)); }
+
+// Pages A, B and C, each holding a label of its own.
+QString pageGroupForm()
+{
+    QString pages;
+    for (const char *title : {"A", "B", "C"}) {
+        const QByteArray page = QByteArray("page") + title;
+        const QByteArray label = QByteArray("label") + title;
+        pages += widgetXml("QWidget", page.constData(),
+                           propertyXml("windowTitle", title)
+                                   + widgetXml("QLabel", label.constData()));
+    }
+    return formXml(widgetXml("VoCc::DrawbackBoxGroup", "group", pages), pageGroupDeclaration());
+}
+
+QStringList titlesOf(const VoCc::DrawbackBoxGroup *group)
+{
+    QStringList titles;
+    for (int i = 0; i < group->count(); ++i)
+        titles << group->pageTitle(i);
+    return titles;
+}
+
+// Orders of deletes and inserts in the page group's editor, on pages A, B and C.
+struct PageEdit
+{
+    const char *name;
+    void (*work)(Driver &);
+    QStringList titles; // after the edit
+    QVector<int> kept; // the original pages the group keeps, in its new order; -1 a new page
+};
+
+const PageEdit pageEdits[] = {
+        {"delete last, New",
+         [](Driver &d) {
+             d.select(2);
+             d.click("deleteListItemButton");
+             d.select(1);
+             d.addRow(QStringLiteral("N"));
+         },
+         {"A", "B", "N"},
+         {0, 1, -1}},
+        {"delete middle, New",
+         [](Driver &d) {
+             d.select(1);
+             d.click("deleteListItemButton");
+             d.select(1);
+             d.addRow(QStringLiteral("N"));
+         },
+         {"A", "C", "N"},
+         {0, 2, -1}},
+        {"New, delete, New",
+         [](Driver &d) {
+             d.select(2);
+             d.addRow(QStringLiteral("N1"));
+             d.select(2);
+             d.click("deleteListItemButton");
+             d.select(2);
+             d.addRow(QStringLiteral("N2"));
+         },
+         {"A", "B", "N1", "N2"},
+         {0, 1, -1, -1}},
+        {"delete last two, New, New",
+         [](Driver &d) {
+             d.select(2);
+             d.click("deleteListItemButton");
+             d.select(1);
+             d.click("deleteListItemButton");
+             d.select(0);
+             d.addRow(QStringLiteral("N1"));
+             d.addRow(QStringLiteral("N2"));
+         },
+         {"A", "N1", "N2"},
+         {0, -1, -1}},
+};
 
 } // namespace
 
@@ -78,6 +156,55 @@ private slots:
         history->redo();
         QCOMPARE(history->index(), 1);
         QCOMPARE(form->contents(), edited);
+    }
+
+    void newRowsMakeNewPages_data()
+    {
+        QTest::addColumn<int>("index");
+        for (int i = 0; i < int(std::size(pageEdits)); ++i)
+            QTest::newRow(pageEdits[i].name) << i;
+    }
+
+    // A new row is a new, empty page, never a page deleted in the same edit; the deleted
+    // pages leave the group and come back with Undo.
+    void newRowsMakeNewPages()
+    {
+        QFETCH(int, index);
+        const PageEdit &pageEdit = pageEdits[index];
+        QDesignerFormWindowInterface *form = createFormWindow(pageGroupForm());
+        const auto closeForm = qScopeGuard([form] { closeFormWindow(form); });
+        auto *group = formChild<VoCc::DrawbackBoxGroup>(form, "group");
+        QVERIFY(group);
+        const QWidgetList original = pagesOf(group);
+        QCOMPARE(original.size(), 3);
+
+        QVERIFY(edit(group, pageEdit.work));
+        QCOMPARE(titlesOf(group), pageEdit.titles);
+        const QWidgetList edited = pagesOf(group);
+        QCOMPARE(edited.size(), pageEdit.kept.size());
+        QWidgetList newPages;
+        for (int i = 0; i < edited.size(); ++i) {
+            const int kept = pageEdit.kept.at(i);
+            if (kept >= 0) {
+                QCOMPARE(edited.at(i), original.at(kept));
+                continue;
+            }
+            QWidget *page = edited.at(i);
+            QVERIFY2(!original.contains(page), qPrintable(page->objectName()));
+            QVERIFY2(!newPages.contains(page), qPrintable(page->objectName()));
+            QVERIFY2(page->findChildren<QWidget *>().isEmpty(), qPrintable(page->objectName()));
+            newPages << page;
+        }
+        for (int i = 0; i < original.size(); ++i) {
+            if (!pageEdit.kept.contains(i))
+                QVERIFY(!original.at(i)->isVisibleTo(form));
+        }
+
+        form->commandHistory()->undo();
+        QCOMPARE(pagesOf(group), original);
+        QCOMPARE(titlesOf(group), QStringList({"A", "B", "C"}));
+        form->commandHistory()->redo();
+        QCOMPARE(pagesOf(group), edited);
     }
 
 };
