@@ -1,5 +1,6 @@
 #include "widgetpluginimpl.h"
 
+#include "pageheaderclicks.h"
 #include "widgetpluginrow.h"
 
 #include <nui/CommonControls/CcDrawbackBoxGroup.hpp>
@@ -86,6 +87,8 @@ QWidget *WidgetPluginImpl::createWidget(QWidget *parent)
                          SLOT(currentIndexChanged(int)));
         QObject::connect(widget, SIGNAL(pageTitleChanged(QString)), m_plugin,
                          SLOT(pageTitleChanged(QString)));
+        if (auto *group = qobject_cast<VoCc::DrawbackBoxGroup *>(widget))
+            new PageHeaderClicks(group);
     }
     return widget;
 }

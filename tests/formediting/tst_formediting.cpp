@@ -1,6 +1,7 @@
 // Editing a form as a form author does, in a real Designer core that loads the built module:
-// an item edit is one step of the form's undo history, and the page group's editor makes new
-// pages for new rows whatever was deleted around them.
+// an item edit is one step of the form's undo history, the page group's editor makes new
+// pages for new rows whatever was deleted around them, and a click on a page header of a
+// page group on the form switches to that page.
 
 #include "designertestcore.h"
 #include "itemdialogdriver.h"
@@ -11,8 +12,12 @@
 #include <nui/CommonControls/CcDrawbackBoxGroup.hpp>
 #include <nui/CommonControls/CcMatrixButtons.hpp>
 
+#include <QDesignerContainerExtension>
+#include <QDesignerFormEditorInterface>
 #include <QDesignerFormWindowCursorInterface>
 #include <QDesignerFormWindowInterface>
+#include <QExtensionManager>
+#include <QToolButton>
 #include <QUndoStack>
 
 using namespace CcTest;
@@ -95,6 +100,57 @@ const PageEdit pageEdits[] = {
          },
          {"A", "N1", "N2"},
          {0, -1, -1}},
+};
+
+// A page's header on the form: the title bar of its box.
+QWidget *headerOf(VoCc::DrawbackBoxGroup *group, int index)
+{
+    return group->box(index)->findChild<QToolButton *>(QString(), Qt::FindDirectChildrenOnly);
+}
+
+// What a user does with the mouse on a page group with pages A, B and C, page A current, and
+// what the form shows then: the current page, the page selected (-1: none) and the form's
+// current widget, the one Designer's property editor shows (null: Designer's own business).
+struct Clicks
+{
+    const char *name;
+    void (*work)(VoCc::DrawbackBoxGroup *);
+    int current, selected;
+    const char *currentWidget;
+};
+
+void clickHeader(VoCc::DrawbackBoxGroup *group, int page, Qt::MouseButton button = Qt::LeftButton)
+{
+    QTest::mouseClick(headerOf(group, page), button);
+}
+
+const Clicks clicks[] = {
+        {"header of the last page", [](VoCc::DrawbackBoxGroup *g) { clickHeader(g, 2); }, 2, 2,
+         "pageC"},
+        {"header of the middle page", [](VoCc::DrawbackBoxGroup *g) { clickHeader(g, 1); }, 1, 1,
+         "pageB"},
+        {"header of the current page", [](VoCc::DrawbackBoxGroup *g) { clickHeader(g, 0); }, 0, -1,
+         "group"},
+        {"right button on a header",
+         [](VoCc::DrawbackBoxGroup *g) { clickHeader(g, 2, Qt::RightButton); }, 0, -1, nullptr},
+        {"pressed on one header, released on another",
+         [](VoCc::DrawbackBoxGroup *g) {
+             QTest::mousePress(headerOf(g, 1), Qt::LeftButton);
+             QTest::mouseRelease(headerOf(g, 2), Qt::LeftButton);
+         },
+         0, -1, "group"},
+        {"released outside the header",
+         [](VoCc::DrawbackBoxGroup *g) {
+             QWidget *header = headerOf(g, 2);
+             QTest::mousePress(header, Qt::LeftButton);
+             QTest::mouseRelease(header, Qt::LeftButton, {}, QPoint(-5, -5));
+         },
+         0, -1, "group"},
+        {"the page's label",
+         [](VoCc::DrawbackBoxGroup *g) {
+             QTest::mouseClick(g->widget(0)->findChild<QWidget *>(), Qt::LeftButton);
+         },
+         0, -1, "labelA"},
 };
 
 } // namespace
@@ -207,6 +263,61 @@ private slots:
         QCOMPARE(pagesOf(group), edited);
     }
 
+    void pageHeaderClicks_data()
+    {
+        QTest::addColumn<int>("index");
+        for (int i = 0; i < int(std::size(clicks)); ++i)
+            QTest::newRow(clicks[i].name) << i;
+    }
+
+    // A left click on a page's header switches to the page and selects it on the form, as a
+    // switch through "currentIndex" does; nothing else switches pages, and Designer handles
+    // every click as before.
+    void pageHeaderClicks()
+    {
+        QFETCH(int, index);
+        QDesignerFormWindowInterface *form = createFormWindow(pageGroupForm());
+        const auto closeForm = qScopeGuard([form] { closeFormWindow(form); });
+        auto *group = formChild<VoCc::DrawbackBoxGroup>(form, "group");
+        QVERIFY(group);
+        // Pages loaded through addPage are not managed yet; Designer selects managed widgets
+        // only.
+        for (QWidget *page : pagesOf(group))
+            form->manageWidget(page);
+        group->setCurrentIndex(0);
+        form->clearSelection();
+        settle();
+
+        clicks[index].work(group);
+        settle();
+        const Clicks &click = clicks[index];
+        QCOMPARE(group->currentIndex(), click.current);
+        for (int i = 0; i < group->count(); ++i)
+            QCOMPARE(form->cursor()->isWidgetSelected(group->widget(i)), i == click.selected);
+        // Designer saw the press too: it selected the group or what was clicked.
+        if (click.currentWidget)
+            QCOMPARE(form->cursor()->current()->objectName(), QLatin1String(click.currentWidget));
+    }
+
+    // Headers of pages added in Designer switch too.
+    void pageHeaderClickOnNewPage()
+    {
+        QDesignerFormWindowInterface *form = createFormWindow(pageGroupForm());
+        const auto closeForm = qScopeGuard([form] { closeFormWindow(form); });
+        auto *group = formChild<VoCc::DrawbackBoxGroup>(form, "group");
+        auto *container = qt_extension<QDesignerContainerExtension *>(
+                form->core()->extensionManager(), group);
+        QVERIFY(container);
+        auto *page = new QWidget;
+        container->addWidget(page);
+        form->manageWidget(page);
+        group->setCurrentIndex(0);
+        settle();
+
+        QTest::mouseClick(headerOf(group, 3), Qt::LeftButton);
+        QCOMPARE(group->currentIndex(), 3);
+        QVERIFY(form->cursor()->isWidgetSelected(page));
+    }
 };
 
 QTEST_MAIN(TestFormEditing)
