@@ -28,18 +28,6 @@ using qdesigner_internal::PropertySheetStringValue;
 
 namespace {
 
-// Three commands carry no text on purpose: their steps show unlabelled in the undo history.
-QString commandText(const char *text)
-{
-    return text ? QCoreApplication::translate("Command", text) : QString();
-}
-
-DesignerIconCache *iconCacheOf(QDesignerFormWindowInterface *formWindow)
-{
-    auto *formBase = qobject_cast<FormWindowBase *>(formWindow);
-    return formBase ? formBase->iconCache() : nullptr;
-}
-
 // The option groups re-lay out their buttons through this method, called by name (the
 // library spells it so).
 void relayOut(QWidget *options) { QMetaObject::invokeMethod(options, "updateGeomtries"); }
@@ -95,21 +83,17 @@ void applyOptions(Options *options, const ItemRecords &items)
 
 } // namespace
 
-template<class Widget, class Contents>
-ChangeContentsCommand<Widget, Contents>::ChangeContentsCommand(
-        const char *text, QDesignerFormWindowInterface *formWindow)
-    : QDesignerFormWindowCommand(commandText(text), formWindow),
-      m_iconCache(iconCacheOf(formWindow))
-{ }
+// Three commands carry no text on purpose: their steps show unlabelled in the undo history.
+QString changeCommandText(const char *text)
+{
+    return text ? QCoreApplication::translate("Command", text) : QString();
+}
 
-template class ChangeContentsCommand<VoCc::CheckableTextComboBox, ItemRecords>;
-template class ChangeContentsCommand<VoCc::ComboBox, ItemRecords>;
-template class ChangeContentsCommand<VoCc::OptionComboBox, ItemRecords>;
-template class ChangeContentsCommand<VoCc::OptionButtons, ItemRecords>;
-template class ChangeContentsCommand<VoCc::OptionRadios, ItemRecords>;
-template class ChangeContentsCommand<VoCc::DrawbackBoxGroup, PageGroupContents>;
-template class ChangeContentsCommand<VoCc::AbstractMatrixOptions, MatrixContents>;
-template class ChangeContentsCommand<VoCc::MatrixPopButtons, MatrixContents>;
+DesignerIconCache *formIconCache(QDesignerFormWindowInterface *formWindow)
+{
+    auto *formBase = qobject_cast<FormWindowBase *>(formWindow);
+    return formBase ? formBase->iconCache() : nullptr;
+}
 
 ChangeCheckComboCommand::ChangeCheckComboCommand(QDesignerFormWindowInterface *formWindow)
     : ChangeContentsCommand(nullptr, formWindow)
@@ -117,8 +101,6 @@ ChangeCheckComboCommand::ChangeCheckComboCommand(QDesignerFormWindowInterface *f
 
 void ChangeCheckComboCommand::applyItems(const ItemRecords &items)
 {
-    if (!m_widget)
-        return;
     m_widget->setItemTextList(recordStrings(items, ItemRoles::Text));
     m_widget->setToolTips(recordStrings(items, ItemRoles::ToolTip));
     applyStringAttributes(m_widget, items);
@@ -130,8 +112,6 @@ ChangeComboBoxCommand::ChangeComboBoxCommand(QDesignerFormWindowInterface *formW
 
 void ChangeComboBoxCommand::applyItems(const ItemRecords &items)
 {
-    if (!m_widget)
-        return;
     m_widget->clear();
     // All rows go into the combo box's own model in one insertion; a model of another kind
     // gets them one at a time.
@@ -174,8 +154,6 @@ ChangeOptionComboCommand::ChangeOptionComboCommand(QDesignerFormWindowInterface 
 
 void ChangeOptionComboCommand::applyItems(const ItemRecords &items)
 {
-    if (!m_widget)
-        return;
     m_widget->setTextList(recordStrings(items, ItemRoles::Text));
     m_widget->setIconList(recordIconPaths(items));
     m_widget->setDataList(recordStrings(items, ItemRoles::Data));

@@ -14,8 +14,6 @@
 #include <QDesignerPropertySheetExtension>
 #include <QExtensionManager>
 
-#include <algorithm>
-
 using qdesigner_internal::DesignerPropertyManager;
 using qdesigner_internal::PropertyDefinition;
 
@@ -54,7 +52,6 @@ DrawbackBoxEditor::DrawbackBoxEditor(QDesignerFormWindowInterface *form, QWidget
 
 PageGroupContents DrawbackBoxEditor::loadFromWidget(VoCc::DrawbackBoxGroup *group)
 {
-    setWindowTitle(tr("Edit DrawbackBoxGroup"));
     m_group = group;
     m_loaded = PageGroupContents();
     m_initialOrder.clear();
@@ -67,6 +64,7 @@ PageGroupContents DrawbackBoxEditor::loadFromWidget(VoCc::DrawbackBoxGroup *grou
         m_initialOrder.append(i);
     }
     m_currentOrder = m_initialOrder;
+    m_lastId = qMax(0, group->count() - 1);
 
     qdesigner_internal::ItemListEditor *editor = itemListEditor();
     connect(editor, SIGNAL(itemMovedUp(int)), this, SLOT(itemMoveUp(int)));
@@ -114,11 +112,9 @@ void DrawbackBoxEditor::itemMoveDown(int row) { m_currentOrder.swapItemsAt(row, 
 
 void DrawbackBoxEditor::itemInsert(int row)
 {
-    // One more than the largest id so far, and never below 1.
-    const int largest = m_currentOrder.isEmpty()
-            ? 0
-            : qMax(0, *std::max_element(m_currentOrder.cbegin(), m_currentOrder.cend()));
-    m_currentOrder.insert(row, largest + 1);
+    // An id no page of this edit ever had, deleted ones included, so that a new row always
+    // becomes a new page (an empty group's first new row gets 1).
+    m_currentOrder.insert(row, ++m_lastId);
 }
 
 void DrawbackBoxEditor::itemDelete(int row) { m_currentOrder.removeAt(row); }

@@ -10,9 +10,9 @@ class DrawbackBoxGroup;
 }
 
 // The page group's editor: one row per page, its title the row's text. Besides the rows it
-// follows the pages themselves through ids (0 to n-1 for the pages it was opened with, new
-// ids for rows inserted since), so that contents() can hand back the group's own page
-// objects in their new order, with new pages made for inserted rows.
+// follows the pages themselves through ids (0 to n-1 for the pages it was opened with, ids
+// never given before for rows inserted since), so that contents() can hand back the group's
+// own page objects in their new order, with new pages made for inserted rows.
 class DrawbackBoxEditor : public ListItemDialog
 {
     Q_OBJECT
@@ -41,4 +41,6 @@ private:
     PageGroupContents m_loaded;
     QList<int> m_initialOrder;
     QList<int> m_currentOrder;
+    // The largest id given out so far, deleted rows' ids included.
+    int m_lastId = 0;
 };
