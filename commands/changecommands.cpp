@@ -117,8 +117,6 @@ ChangeCheckComboCommand::ChangeCheckComboCommand(QDesignerFormWindowInterface *f
 
 void ChangeCheckComboCommand::applyItems(const ItemRecords &items)
 {
-    if (!m_widget)
-        return;
     m_widget->setItemTextList(recordStrings(items, ItemRoles::Text));
     m_widget->setToolTips(recordStrings(items, ItemRoles::ToolTip));
     applyStringAttributes(m_widget, items);
@@ -130,8 +128,6 @@ ChangeComboBoxCommand::ChangeComboBoxCommand(QDesignerFormWindowInterface *formW
 
 void ChangeComboBoxCommand::applyItems(const ItemRecords &items)
 {
-    if (!m_widget)
-        return;
     m_widget->clear();
     // All rows go into the combo box's own model in one insertion; a model of another kind
     // gets them one at a time.
@@ -174,8 +170,6 @@ ChangeOptionComboCommand::ChangeOptionComboCommand(QDesignerFormWindowInterface 
 
 void ChangeOptionComboCommand::applyItems(const ItemRecords &items)
 {
-    if (!m_widget)
-        return;
     m_widget->setTextList(recordStrings(items, ItemRoles::Text));
     m_widget->setIconList(recordIconPaths(items));
     m_widget->setDataList(recordStrings(items, ItemRoles::Data));

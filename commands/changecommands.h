@@ -25,11 +25,14 @@ class OptionRadios;
 
 // An accepted item edit as an undoable step on the form's undo stack: the command keeps the
 // contents before and after the edit and writes one or the other into the widget. Pushing it
-// runs redo(). Texts are translated in the context "Command".
+// runs redo(). Once the widget is gone, redo() and undo() do nothing. Texts are translated in
+// the context "Command".
 template<class Widget, class Contents>
 class ChangeContentsCommand : public qdesigner_internal::QDesignerFormWindowCommand
 {
 public:
+    using WidgetType = Widget;
+
     void init(Widget *widget, const Contents &oldContents, const Contents &newContents)
     {
         m_widget = widget;
@@ -37,8 +40,16 @@ public:
         m_newContents = newContents;
     }
 
-    void redo() override { applyItems(m_newContents); }
-    void undo() override { applyItems(m_oldContents); }
+    void redo() override
+    {
+        if (m_widget)
+            applyItems(m_newContents);
+    }
+    void undo() override
+    {
+        if (m_widget)
+            applyItems(m_oldContents);
+    }
 
 protected:
     ChangeContentsCommand(const char *text, QDesignerFormWindowInterface *formWindow);
@@ -105,8 +116,9 @@ public:
     explicit ChangeDrawbackBoxCommand(QDesignerFormWindowInterface *formWindow);
 
     using ChangeContentsCommand::init;
-    // The two page-id lists the editor kept (its initial and its final order) travel with
-    // the command for the record; the pages themselves are in the contents.
+    // The two page-id lists the editor kept (its initial and its final order) are kept with
+    // the command as they came, and nothing reads them: the pages themselves, in their new
+    // order, are in the contents.
     void init(VoCc::DrawbackBoxGroup *group, const PageGroupContents &oldContents,
               const PageGroupContents &newContents, const QList<int> &initialOrder,
               const QList<int> &finalOrder);
