@@ -28,18 +28,6 @@ using qdesigner_internal::PropertySheetStringValue;
 
 namespace {
 
-// Three commands carry no text on purpose: their steps show unlabelled in the undo history.
-QString commandText(const char *text)
-{
-    return text ? QCoreApplication::translate("Command", text) : QString();
-}
-
-DesignerIconCache *iconCacheOf(QDesignerFormWindowInterface *formWindow)
-{
-    auto *formBase = qobject_cast<FormWindowBase *>(formWindow);
-    return formBase ? formBase->iconCache() : nullptr;
-}
-
 // The option groups re-lay out their buttons through this method, called by name (the
 // library spells it so).
 void relayOut(QWidget *options) { QMetaObject::invokeMethod(options, "updateGeomtries"); }
@@ -95,21 +83,17 @@ void applyOptions(Options *options, const ItemRecords &items)
 
 } // namespace
 
-template<class Widget, class Contents>
-ChangeContentsCommand<Widget, Contents>::ChangeContentsCommand(
-        const char *text, QDesignerFormWindowInterface *formWindow)
-    : QDesignerFormWindowCommand(commandText(text), formWindow),
-      m_iconCache(iconCacheOf(formWindow))
-{ }
+// Three commands carry no text on purpose: their steps show unlabelled in the undo history.
+QString changeCommandText(const char *text)
+{
+    return text ? QCoreApplication::translate("Command", text) : QString();
+}
 
-template class ChangeContentsCommand<VoCc::CheckableTextComboBox, ItemRecords>;
-template class ChangeContentsCommand<VoCc::ComboBox, ItemRecords>;
-template class ChangeContentsCommand<VoCc::OptionComboBox, ItemRecords>;
-template class ChangeContentsCommand<VoCc::OptionButtons, ItemRecords>;
-template class ChangeContentsCommand<VoCc::OptionRadios, ItemRecords>;
-template class ChangeContentsCommand<VoCc::DrawbackBoxGroup, PageGroupContents>;
-template class ChangeContentsCommand<VoCc::AbstractMatrixOptions, MatrixContents>;
-template class ChangeContentsCommand<VoCc::MatrixPopButtons, MatrixContents>;
+DesignerIconCache *formIconCache(QDesignerFormWindowInterface *formWindow)
+{
+    auto *formBase = qobject_cast<FormWindowBase *>(formWindow);
+    return formBase ? formBase->iconCache() : nullptr;
+}
 
 ChangeCheckComboCommand::ChangeCheckComboCommand(QDesignerFormWindowInterface *formWindow)
     : ChangeContentsCommand(nullptr, formWindow)

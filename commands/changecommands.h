@@ -23,10 +23,15 @@ class OptionComboBox;
 class OptionRadios;
 } // namespace VoCc
 
+// A command's text, translated in the context "Command"; null gives an empty text.
+QString changeCommandText(const char *text);
+// The form's icon cache; null when the form window is not one of Designer's own.
+qdesigner_internal::DesignerIconCache *formIconCache(QDesignerFormWindowInterface *formWindow);
+
 // An accepted item edit as an undoable step on the form's undo stack: the command keeps the
-// contents before and after the edit and writes one or the other into the widget. Pushing it
-// runs redo(). Once the widget is gone, redo() and undo() do nothing. Texts are translated in
-// the context "Command".
+// contents before and after the edit and writes one or the other into the widget through
+// its write function, applyItems(). Pushing it runs redo(). Once the widget is gone, redo()
+// and undo() do nothing.
 template<class Widget, class Contents>
 class ChangeContentsCommand : public qdesigner_internal::QDesignerFormWindowCommand
 {
@@ -52,7 +57,10 @@ public:
     }
 
 protected:
-    ChangeContentsCommand(const char *text, QDesignerFormWindowInterface *formWindow);
+    ChangeContentsCommand(const char *text, QDesignerFormWindowInterface *formWindow)
+        : QDesignerFormWindowCommand(changeCommandText(text), formWindow),
+          m_iconCache(formIconCache(formWindow))
+    { }
 
     virtual void applyItems(const Contents &contents) = 0;
 

@@ -3,6 +3,8 @@
 #include "pageheaderclicks.h"
 #include "widgetpluginrow.h"
 
+#include <itemedits.h>
+
 #include <nui/CommonControls/CcDrawbackBoxGroup.hpp>
 #include <nui/CommonControls/CcMatrixButtons.hpp>
 
@@ -46,7 +48,7 @@ WidgetPluginImpl::WidgetPluginImpl(QObject *plugin, const WidgetPluginRow *row)
     Q_ASSERT(row);
 }
 
-QString WidgetPluginImpl::name() const { return QLatin1String(m_row->name); }
+QString WidgetPluginImpl::name() const { return QLatin1String(m_row->widget.name); }
 
 QString WidgetPluginImpl::group() const { return QLatin1String(m_row->group); }
 
@@ -60,11 +62,11 @@ QString WidgetPluginImpl::whatsThis() const
     return m_row->toolTip ? QString(QLatin1String("")) : QString();
 }
 
-QString WidgetPluginImpl::includeFile() const { return QLatin1String(m_row->includeFile); }
+QString WidgetPluginImpl::includeFile() const { return QLatin1String(m_row->widget.includeFile); }
 
 QIcon WidgetPluginImpl::icon() const { return QIcon(); }
 
-bool WidgetPluginImpl::isContainer() const { return m_row->container; }
+bool WidgetPluginImpl::isContainer() const { return m_row->widget.container; }
 
 QWidget *WidgetPluginImpl::createWidget(QWidget *parent)
 {
@@ -81,7 +83,7 @@ QWidget *WidgetPluginImpl::createWidget(QWidget *parent)
                              m_plugin, SLOT(resourceSetActivated(QtResourceSet*, bool)));
     }
     // clang-format on
-    QWidget *widget = m_row->createWidget(parent);
+    QWidget *widget = m_row->widget.create(parent);
     if (m_followsPages) {
         QObject::connect(widget, SIGNAL(currentIndexChanged(int)), m_plugin,
                          SLOT(currentIndexChanged(int)));
@@ -101,8 +103,7 @@ void WidgetPluginImpl::initialize(QDesignerFormEditorInterface *core)
         return;
     if (m_row->extensions)
         m_row->extensions(core);
-    if (m_row->taskMenu)
-        m_row->taskMenu(core);
+    registerTaskMenus(core, m_row->widget.name);
     m_core = core;
     m_initialized = true;
 }
@@ -112,7 +113,7 @@ QString WidgetPluginImpl::domXml() const
     const DefaultXml &xml = m_row->domXml;
     if (xml.text)
         return QLatin1String(xml.text);
-    QString text = QLatin1String("<widget class=\"") + QLatin1String(m_row->name)
+    QString text = QLatin1String("<widget class=\"") + QLatin1String(m_row->widget.name)
             + QLatin1String("\" name=\"") + QLatin1String(xml.objectName)
             + QLatin1String("\">\n"
                             " <property name=\"id\" stdset=\"0\">\n"
@@ -130,7 +131,7 @@ void WidgetPluginImpl::repaintEditedWidget() const
         return;
     QObject *object = m_propertyEditor->object();
     if (object && object->isWidgetType()
-        && qstrcmp(object->metaObject()->className(), m_row->name) == 0)
+        && qstrcmp(object->metaObject()->className(), m_row->widget.name) == 0)
         static_cast<QWidget *>(object)->update();
 }
 

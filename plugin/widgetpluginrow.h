@@ -24,20 +24,27 @@ constexpr DefaultXml specialXml(const char *text) { return {nullptr, false, text
 
 using ExtensionRegistration = void (*)(QDesignerFormEditorInterface *core);
 
-// One widget class as the widget box shows it, and what its plug-in does for Designer.
+// A class of the library as its list gives it (ccwidgetclasses.h).
+struct WidgetClassRow
+{
+    const char *name;
+    const char *includeFile;
+    bool container;
+    QWidget *(*create)(QWidget *parent);
+};
+
+// One widget class as the widget box shows it, and what its plug-in does for Designer. The
+// task-menu factories a plug-in registers come from the editing families that serve its
+// class.
 struct WidgetPluginRow
 {
     const QMetaObject *plugin;
     QDesignerCustomWidgetInterface *(*createPlugin)(QObject *parent);
-    const char *name;
+    WidgetClassRow widget;
     const char *group;
-    const char *includeFile;
-    bool container;
     const char *toolTip; // null: the plug-in answers both description texts with null strings
     DefaultXml domXml;
-    QWidget *(*createWidget)(QWidget *parent);
     ExtensionRegistration extensions;
-    ExtensionRegistration taskMenu;
 };
 
 // The widget plug-ins in the order the widget box is fed.

@@ -14,6 +14,11 @@ class QtResourceSet;
 // and the slots it needs); everything else comes from its table row through
 // WidgetPluginImpl. The slots are declared with Q_SLOTS so that moc sees them through the
 // macros.
+//
+// The declarations below are a list of their own, apart from the library's list of classes
+// (ccwidgetclasses.h): moc makes a meta-object only for a class declared in a header it
+// reads, and which of the declaration macros a class takes (the slots its plug-in follows
+// the form with) is the plug-in's business, not the library's.
 
 // clang-format off
 #define CC_WIDGET_PLUGIN_BEGIN(Class)                                                      \

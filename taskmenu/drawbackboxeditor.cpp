@@ -52,7 +52,6 @@ DrawbackBoxEditor::DrawbackBoxEditor(QDesignerFormWindowInterface *form, QWidget
 
 PageGroupContents DrawbackBoxEditor::loadFromWidget(VoCc::DrawbackBoxGroup *group)
 {
-    setWindowTitle(tr("Edit DrawbackBoxGroup"));
     m_group = group;
     m_loaded = PageGroupContents();
     m_initialOrder.clear();

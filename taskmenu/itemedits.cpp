@@ -4,6 +4,7 @@
 #include "drawbackboxeditor.h"
 #include "listeditors.h"
 #include "matrixeditors.h"
+#include "taskmenus.h"
 
 #include <nui/CommonControls/CcAbstractMatrixOptions.hpp>
 #include <nui/CommonControls/CcCheckableTextComboBox.hpp>
@@ -14,8 +15,12 @@
 #include <nui/CommonControls/template/CcOptionComboBox.hpp>
 #include <nui/CommonControls/template/CcOptionRadios.hpp>
 
+#include <QDesignerFormEditorInterface>
 #include <QDesignerFormWindowCursorInterface>
 #include <QDesignerFormWindowInterface>
+#include <QExtensionManager>
+
+#include <QCoreApplication>
 #include <QUndoStack>
 
 namespace {
@@ -107,13 +112,23 @@ void pushChange(QDesignerFormWindowInterface *form, ChangeMatrixBtnsCommand *com
     history->endMacro();
 }
 
-// The steps every item edit shares.
-template<class Editor, class Command, class Widget>
-void edit(const QPointer<QDesignerFormWindowInterface> &form, Widget *widget)
+// The steps every item edit shares. The editor opens over the form's window on the widget's
+// contents; when the user accepts a change, the command that applies it goes on the form's
+// undo stack. A cancel, an unchanged list, or a form or widget gone while the dialog was
+// open, changes nothing.
+template<class Editor, class Command>
+void edit(const QPointer<QDesignerFormWindowInterface> &form, QWidget *target,
+          const char *windowTitle)
 {
+    using Widget = typename Command::WidgetType;
+    auto *widget = qobject_cast<Widget *>(target);
+    if (!widget)
+        return;
     const QPointer<Widget> guard(widget);
     Editor editor(form, widget->window());
     const auto oldContents = openedContents(editor, widget);
+    editor.setWindowTitle(
+            QCoreApplication::translate(Editor::staticMetaObject.className(), windowTitle));
     // The nested event loop may have closed the form or deleted the widget.
     if (editor.exec() != QDialog::Accepted || !form || !guard)
         return;
@@ -126,44 +141,37 @@ void edit(const QPointer<QDesignerFormWindowInterface> &form, Widget *widget)
     pushChange(form, command, widget, newContents);
 }
 
+template<class Factory>
+void registerFactory(QDesignerFormEditorInterface *core)
+{
+    QExtensionManager *manager = core->extensionManager();
+    manager->registerExtensions(new Factory(manager, core), Q_TYPEID(QDesignerTaskMenuExtension));
+}
+
 } // namespace
 
-void editItems(QPointer<QDesignerFormWindowInterface> form, VoCc::CheckableTextComboBox *widget)
-{
-    edit<CheckComboEditor, ChangeCheckComboCommand>(form, widget);
-}
+// Each task menu's entry: the widget's form window, looked up afresh on every edit. The edit
+// gets its own guard: the form, and the task menu with it, may go while the editor runs.
+// clang-format off
+#define CC_DEFINE_EDIT(TaskMenu, Factory, WidgetClass, Editor, Command, entryText, windowTitle) \
+    void TaskMenu::editItems()                                                                 \
+    {                                                                                          \
+        m_formWindow = QDesignerFormWindowInterface::findFormWindow(m_widget);                 \
+        if (const QPointer<QDesignerFormWindowInterface> form = m_formWindow)                  \
+            edit<Editor, Command>(form, m_widget, windowTitle);                                \
+    }
+#define CC_NO_EDIT(Factory, TaskMenu, WidgetClass)
+CC_EDITING_FAMILIES(CC_DEFINE_EDIT, CC_NO_EDIT)
 
-void editItems(QPointer<QDesignerFormWindowInterface> form, VoCc::ComboBox *widget)
-{
-    edit<ComboBoxEditor, ChangeComboBoxCommand>(form, widget);
-}
+#define CC_REGISTER_FACTORY(Factory, TaskMenu, WidgetClass)                                    \
+    if (qstrcmp(widgetClass, WidgetClass::staticMetaObject.className()) == 0)                  \
+        registerFactory<Factory>(core);
+#define CC_REGISTER_FAMILY(TaskMenu, Factory, WidgetClass, Editor, Command, entryText,         \
+                           windowTitle)                                                        \
+    CC_REGISTER_FACTORY(Factory, TaskMenu, WidgetClass)
+// clang-format on
 
-void editItems(QPointer<QDesignerFormWindowInterface> form, VoCc::OptionComboBox *widget)
+void registerTaskMenus(QDesignerFormEditorInterface *core, const char *widgetClass)
 {
-    edit<OptionComboEditor, ChangeOptionComboCommand>(form, widget);
-}
-
-void editItems(QPointer<QDesignerFormWindowInterface> form, VoCc::OptionButtons *widget)
-{
-    edit<OptionsEditor, ChangeOptionButtonsCommand>(form, widget);
-}
-
-void editItems(QPointer<QDesignerFormWindowInterface> form, VoCc::OptionRadios *widget)
-{
-    edit<OptionsEditor, ChangeOptionRadiosCommand>(form, widget);
-}
-
-void editItems(QPointer<QDesignerFormWindowInterface> form, VoCc::DrawbackBoxGroup *widget)
-{
-    edit<DrawbackBoxEditor, ChangeDrawbackBoxCommand>(form, widget);
-}
-
-void editItems(QPointer<QDesignerFormWindowInterface> form, VoCc::AbstractMatrixOptions *widget)
-{
-    edit<MatrixButtonsDialog, ChangeMatrixBtnsCommand>(form, widget);
-}
-
-void editItems(QPointer<QDesignerFormWindowInterface> form, VoCc::MatrixPopButtons *widget)
-{
-    edit<MatrixPopButtonsDialog, ChangeMatrixPopBtnsCommand>(form, widget);
+    CC_EDITING_FAMILIES(CC_REGISTER_FAMILY, CC_REGISTER_FACTORY)
 }

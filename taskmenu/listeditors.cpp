@@ -75,7 +75,6 @@ CheckComboEditor::CheckComboEditor(QDesignerFormWindowInterface *form, QWidget *
 
 ItemRecords CheckComboEditor::loadFromWidget(VoCc::CheckableTextComboBox *comboBox)
 {
-    setWindowTitle(tr("Edit Checkable ComboBox"));
     const QStringList texts = comboBox->itemTextList();
     const QStringList toolTips = comboBox->toolTips();
     const QVariantList textMarks =
@@ -102,7 +101,6 @@ ComboBoxEditor::ComboBoxEditor(QDesignerFormWindowInterface *form, QWidget *pare
 
 ItemRecords ComboBoxEditor::loadFromWidget(VoCc::ComboBox *comboBox)
 {
-    setWindowTitle(tr("Edit ComboBox"));
     // Text and icon are the designer values kept on each entry (Designer keeps them there
     // when it loads a form, and so does the change command).
     const QStringList actions = comboBox->actionList();
@@ -129,7 +127,6 @@ OptionComboEditor::OptionComboEditor(QDesignerFormWindowInterface *form, QWidget
 
 ItemRecords OptionComboEditor::loadFromWidget(VoCc::OptionComboBox *options)
 {
-    setWindowTitle(tr("Edit Option ComboBox"));
     const ItemRecords items = optionRecords(options, false);
     fillList(items, options, optionComboProperties);
     return items;
@@ -141,8 +138,6 @@ OptionsEditor::OptionsEditor(QDesignerFormWindowInterface *form, QWidget *parent
 
 ItemRecords OptionsEditor::loadFromWidget(VoCc::AbstractOptions *options)
 {
-    setWindowTitle(qobject_cast<VoCc::OptionRadios *>(options) ? tr("Edit OptionRadios")
-                                                               : tr("Edit OptionButtons"));
     const ItemRecords items = optionRecords(options, true);
     fillList(items, options, optionsProperties);
     return items;

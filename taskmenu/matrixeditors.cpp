@@ -193,7 +193,6 @@ MatrixButtonsDialog::MatrixButtonsDialog(QDesignerFormWindowInterface *form, QWi
 void MatrixButtonsDialog::fillContentsFromWidget(MatrixContents &contents,
                                                  VoCc::AbstractMatrixOptions *widget)
 {
-    setWindowTitle(tr("Edit Matrix buttons"));
     m_editor.fillContentsFromWidget(contents, widget);
 }
 
@@ -204,6 +203,5 @@ MatrixPopButtonsDialog::MatrixPopButtonsDialog(QDesignerFormWindowInterface *for
 void MatrixPopButtonsDialog::fillContentsFromWidget(MatrixContents &contents,
                                                     VoCc::MatrixPopButtons *widget)
 {
-    setWindowTitle(tr("Edit Matrix PopButtons"));
     m_editor.fillContentsFromWidget(contents, widget);
 }

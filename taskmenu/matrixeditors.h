@@ -73,7 +73,7 @@ private slots:
     void on_colCountsChanged(int colCounts) { columnCountChanged(colCounts); }
 };
 
-// The dialogs the task menus run: the editor's form with a title of their own.
+// The dialogs the task menus run: the editor's form, on the dialog.
 class MatrixButtonsDialog : public QDialog
 {
     Q_OBJECT

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "itemedits.h"
+#include "editingfamilies.h"
 
 #include <QAction>
 #include <QDesignerFormWindowInterface>
@@ -8,39 +8,33 @@
 #include <QExtensionFactory>
 #include <QPointer>
 
-#include <nui/CommonControls/CcCheckableTextComboBox.hpp>
-#include <nui/CommonControls/CcMatrixButtons.hpp>
-#include <nui/CommonControls/CcMatrixPopButtons.hpp>
-#include <nui/CommonControls/CcComboBox.hpp>
-#include <nui/CommonControls/CcDrawbackBoxGroup.hpp>
-#include <nui/CommonControls/template/CcOptionButtons.hpp>
-#include <nui/CommonControls/template/CcOptionComboBox.hpp>
-#include <nui/CommonControls/template/CcOptionRadios.hpp>
+// Every widget class a factory may serve.
+#include <ccwidgetclasses.h>
 
 QT_BEGIN_NAMESPACE
 class QDesignerFormEditorInterface;
 class QExtensionManager;
 QT_END_NAMESPACE
 
-// The context-menu entries of the list-like widgets. Each task menu offers one entry that
-// opens its widget's editor (editItems() for the widget's class picks which); each factory
-// serves one widget class. The classes differ only in names, widget class and entry text,
-// so each is a short declaration over these macros, with a meta-object of its own (a task
-// menu's only meta-method is its editItems() slot; the entry text is translated in its class
-// name's context).
+// The context-menu entries of the list-like widgets, declared from the editing families'
+// table (editingfamilies.h). Each task menu and each factory is a class of its own with a
+// meta-object of its own, so moc must see every one of them spelled out: the table is
+// expanded here, in the header moc reads (moc expands the macros). A task menu's only
+// meta-method is its editItems() slot, defined with its family's editor and command in
+// itemedits.cpp; its entry text is translated in its class name's context.
 
 // clang-format off
-#define CC_TASK_MENU(Class, WidgetClass, actionText)                                          \
+#define CC_TASK_MENU(Class, actionText)                                                       \
     class Class : public QObject, public QDesignerTaskMenuExtension                            \
     {                                                                                          \
         Q_OBJECT                                                                               \
         Q_INTERFACES(QDesignerTaskMenuExtension)                                               \
     public:                                                                                    \
-        Class(WidgetClass *widget, QObject *parent)                                            \
+        Class(QWidget *widget, QObject *parent)                                                \
             : QObject(parent), m_editItemsAction(new QAction(tr(actionText), this)),           \
               m_widget(widget)                                                                 \
         {                                                                                      \
-            connect(m_editItemsAction, SIGNAL(triggered()), this, SLOT(editItems()));          \
+            connect(m_editItemsAction, &QAction::triggered, this, &Class::editItems);          \
             /* Goes with its widget; its factory only forgets it then. */                      \
             connect(widget, &QObject::destroyed, this, &QObject::deleteLater);                 \
         }                                                                                      \
@@ -48,18 +42,11 @@ QT_END_NAMESPACE
         QList<QAction *> taskActions() const override { return {m_editItemsAction}; }          \
                                                                                                \
     private Q_SLOTS:                                                                           \
-        void editItems()                                                                       \
-        {                                                                                      \
-            m_formWindow = QDesignerFormWindowInterface::findFormWindow(m_widget);             \
-            /* The edit gets its own guard: the form, and this menu with it, may go while */   \
-            /* the editor runs. */                                                             \
-            if (const QPointer<QDesignerFormWindowInterface> form = m_formWindow)              \
-                ::editItems(form, m_widget);                                                   \
-        }                                                                                      \
+        void editItems();                                                                      \
                                                                                                \
     private:                                                                                   \
         QAction *m_editItemsAction;                                                            \
-        WidgetClass *m_widget;                                                                 \
+        QWidget *m_widget;                                                                     \
         QPointer<QDesignerFormWindowInterface> m_formWindow;                                   \
     };
 
@@ -88,30 +75,12 @@ QT_END_NAMESPACE
         QDesignerFormEditorInterface *m_core;                                                  \
     };
 
-CC_TASK_MENU(ComboBoxTaskMenu, VoCc::ComboBox, "Edit Items")
-CC_TASK_MENU_FACTORY(ComboBoxFactory, ComboBoxTaskMenu, VoCc::ComboBox)
+#define CC_DECLARE_FAMILY(TaskMenu, Factory, WidgetClass, Editor, Command, entryText,         \
+                          windowTitle)                                                         \
+    CC_TASK_MENU(TaskMenu, entryText)                                                          \
+    CC_TASK_MENU_FACTORY(Factory, TaskMenu, WidgetClass)
+#define CC_DECLARE_FACTORY(Factory, TaskMenu, WidgetClass)                                     \
+    CC_TASK_MENU_FACTORY(Factory, TaskMenu, WidgetClass)
 
-CC_TASK_MENU(CheckComboTaskMenu, VoCc::CheckableTextComboBox, "Edit Items")
-CC_TASK_MENU_FACTORY(CheckComboFactory, CheckComboTaskMenu, VoCc::CheckableTextComboBox)
-
-CC_TASK_MENU(OptionComboTaskMenu, VoCc::OptionComboBox, "Edit Items")
-CC_TASK_MENU_FACTORY(OptionComboFactory, OptionComboTaskMenu, VoCc::OptionComboBox)
-
-CC_TASK_MENU(OptionButtonsTaskMenu, VoCc::OptionButtons, "Edit Buttons")
-CC_TASK_MENU_FACTORY(OptionButtonsFactory, OptionButtonsTaskMenu, VoCc::OptionButtons)
-
-CC_TASK_MENU(OptionRadiosTaskMenu, VoCc::OptionRadios, "Edit Buttons")
-CC_TASK_MENU_FACTORY(OptionRadiosFactory, OptionRadiosTaskMenu, VoCc::OptionRadios)
-
-CC_TASK_MENU(DrawbackBoxTaskMenu, VoCc::DrawbackBoxGroup, "Edit DrawbackBox")
-CC_TASK_MENU_FACTORY(DrawbackBoxFactory, DrawbackBoxTaskMenu, VoCc::DrawbackBoxGroup)
-
-// One task menu serves the three button matrices, each through a factory of its own.
-CC_TASK_MENU(MatrixPushButtonsTaskMenu, VoCc::AbstractMatrixOptions, "Edit Buttons")
-CC_TASK_MENU_FACTORY(MatrixPushButtonsFactory, MatrixPushButtonsTaskMenu, VoCc::MatrixPushButtons)
-CC_TASK_MENU_FACTORY(MatrixRadioButtonsFactory, MatrixPushButtonsTaskMenu, VoCc::MatrixRadioButtons)
-CC_TASK_MENU_FACTORY(MatrixCheckBoxesFactory, MatrixPushButtonsTaskMenu, VoCc::MatrixCheckBoxes)
-
-CC_TASK_MENU(MatrixPopButtonsTaskMenu, VoCc::MatrixPopButtons, "Edit Buttons")
-CC_TASK_MENU_FACTORY(MatrixPopButtonsFactory, MatrixPopButtonsTaskMenu, VoCc::MatrixPopButtons)
+CC_EDITING_FAMILIES(CC_DECLARE_FAMILY, CC_DECLARE_FACTORY)
 // clang-format on

@@ -3,46 +3,7 @@
 #include "ccdomentries.h"
 #include "ccentrylists.h"
 #include "ccformtranslator.h"
-#include "nui/CommonControls/CcColorButton.hpp"
-#include "nui/CommonControls/CcColorPanel.hpp"
-#include "nui/CommonControls/CcColorPicker.hpp"
-#include "nui/CommonControls/CcComboBox.hpp"
-#include "nui/CommonControls/CcDrawbackBoxGroup.hpp"
-#include "nui/CommonControls/CcForm.hpp"
-#include "nui/CommonControls/CcFormProxy.hpp"
-#include "nui/CommonControls/CcLine.hpp"
-#include "nui/CommonControls/CcLineEditEx.hpp"
-#include "nui/CommonControls/CcLineType.hpp"
-#include "nui/CommonControls/CcLineWidth.hpp"
-#include "nui/CommonControls/CcListView.hpp"
-#include "nui/CommonControls/CcListWidget.hpp"
-#include "nui/CommonControls/CcMatrixButtons.hpp"
-#include "nui/CommonControls/CcMatrixPopButtons.hpp"
-#include "nui/CommonControls/CcPane.hpp"
-#include "nui/CommonControls/CcRealNumber.hpp"
-#include "nui/CommonControls/CcRealNumberEdit.hpp"
-#include "nui/CommonControls/CcSelectList.hpp"
-#include "nui/CommonControls/CcTableWidget.hpp"
-#include "nui/CommonControls/CcTextEdit.hpp"
-#include "nui/CommonControls/CcTreeView.hpp"
-#include "nui/CommonControls/Template/CcAngle.hpp"
-#include "nui/CommonControls/Template/CcCmdButton.hpp"
-#include "nui/CommonControls/Template/CcColor.hpp"
-#include "nui/CommonControls/Template/CcDistance.hpp"
-#include "nui/CommonControls/Template/CcEntity.hpp"
-#include "nui/CommonControls/Template/CcEntityList.hpp"
-#include "nui/CommonControls/Template/CcNumber.hpp"
-#include "nui/CommonControls/Template/CcPinEntity.hpp"
-#include "nui/CommonControls/Template/CcPinEntityList.hpp"
-#include "nui/CommonControls/Template/CcPoint.hpp"
-#include "nui/CommonControls/Template/CcSlider.hpp"
-#include "nui/CommonControls/Template/CcString.hpp"
-#include "nui/CommonControls/Template/CcWindow.hpp"
-#include "nui/CommonControls/Template/ColorTransfer.hpp"
-#include "nui/CommonControls/template/CcOptionButtons.hpp"
-#include "nui/CommonControls/template/CcOptionCheckBox.hpp"
-#include "nui/CommonControls/template/CcOptionComboBox.hpp"
-#include "nui/CommonControls/template/CcOptionRadios.hpp"
+#include "ccwidgetclasses.h"
 
 #include "qtcompat.h"
 
@@ -75,52 +36,9 @@ struct WidgetClass
 };
 
 // Every class of the library, as a form names it.
-const WidgetClass widgetClasses[] = {
-        {"VoCc::Angle", make<Angle>, false},
-        {"VoCc::CmdButton", make<CmdButton>, false},
-        {"VoCc::Color", make<Color>, false},
-        {"VoCc::ColorTransfer", make<ColorTransfer>, false},
-        {"VoCc::Distance", make<Distance>, false},
-        {"VoCc::Entity", make<Entity>, false},
-        {"VoCc::EntityList", make<EntityList>, false},
-        {"VoCc::PinEntity", make<PinEntity>, false},
-        {"VoCc::PinEntityList", make<PinEntityList>, false},
-        {"VoCc::FormProxy", make<FormProxy>, false},
-        {"VoCc::Number", make<Number>, false},
-        {"VoCc::OptionButtons", make<OptionButtons>, false},
-        {"VoCc::OptionCheckBox", make<OptionCheckBox>, false},
-        {"VoCc::OptionComboBox", make<OptionComboBox>, false},
-        {"VoCc::OptionRadios", make<OptionRadios>, false},
-        {"VoCc::Point", make<Point>, false},
-        {"VoCc::Slider", make<Slider>, false},
-        {"VoCc::String", make<String>, false},
-        {"VoCc::Window", make<Window>, false},
-        {"VoCc::CheckableTextComboBox", make<CheckableTextComboBox>, false},
-        {"VoCc::ColorButton", make<ColorButton>, false},
-        {"VoCc::ColorPanel", make<ColorPanel>, false},
-        {"VoCc::ColorPicker", make<ColorPicker>, false},
-        {"VoCc::ComboBox", make<ComboBox>, false},
-        {"VoCc::DrawbackBoxGroup", make<DrawbackBoxGroup>, true},
-        {"VoCc::Form", make<Form>, true},
-        {"VoCc::Line", make<Line>, false},
-        {"VoCc::LineEditBtn", make<LineEditBtn>, false},
-        {"VoCc::LineEditEx", make<LineEditEx>, false},
-        {"VoCc::LineType", make<LineType>, false},
-        {"VoCc::LineWidth", make<LineWidth>, false},
-        {"VoCc::ListView", make<ListView>, false},
-        {"VoCc::ListWidget", make<ListWidget>, false},
-        {"VoCc::MatrixCheckBoxes", make<MatrixCheckBoxes>, false},
-        {"VoCc::MatrixPopButtons", make<MatrixPopButtons>, false},
-        {"VoCc::MatrixPushButtons", make<MatrixPushButtons>, false},
-        {"VoCc::MatrixRadioButtons", make<MatrixRadioButtons>, false},
-        {"VoCc::Pane", make<Pane>, true},
-        {"VoCc::RealNumberEdit", make<RealNumberEdit>, false},
-        {"VoCc::RealNumberSlider", make<RealNumberSlider>, false},
-        {"VoCc::SelectList", make<SelectList>, false},
-        {"VoCc::TableWidget", make<TableWidget>, false},
-        {"VoCc::TextEdit", make<TextEdit>, false},
-        {"VoCc::TreeView", make<TreeView>, false},
-};
+#define CC_FORM_CLASS(Class, header, container, entries) {"VoCc::" #Class, make<Class>, container},
+const WidgetClass widgetClasses[] = {CC_WIDGET_CLASSES(CC_FORM_CLASS)};
+#undef CC_FORM_CLASS
 
 const WidgetClass *findWidgetClass(const QString &name)
 {

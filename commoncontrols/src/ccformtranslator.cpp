@@ -1,6 +1,7 @@
 #include "ccformtranslator.h"
 
 #include "ccentrylists.h"
+#include "ccwidgetclasses.h"
 #include "nui/CommonControls/CcComboBox.hpp"
 #include "nui/CommonControls/CcFormBuilder.hpp"
 
@@ -77,17 +78,16 @@ bool holdsIdentifier(const QString &itemProperty)
 // elements (and, for the pop-button matrix, its "textList" property).
 bool loadsEntries(const QString &className)
 {
-    static const QStringList classes = {
-            QStringLiteral("VoCc::OptionButtons"),
-            QStringLiteral("VoCc::OptionRadios"),
-            QStringLiteral("VoCc::OptionComboBox"),
-            QStringLiteral("VoCc::OptionCheckBox"),
-            QStringLiteral("VoCc::CheckableTextComboBox"),
-            QStringLiteral("VoCc::MatrixPushButtons"),
-            QStringLiteral("VoCc::MatrixRadioButtons"),
-            QStringLiteral("VoCc::MatrixCheckBoxes"),
-            QStringLiteral("VoCc::MatrixPopButtons"),
-    };
+    // clang-format off
+#define CC_ENTRY_CLASS(Class, header, container, entries)                                  \
+    if (entries) classes.append(QStringLiteral("VoCc::" #Class));
+    // clang-format on
+    static const QStringList classes = [] {
+        QStringList classes;
+        CC_WIDGET_CLASSES(CC_ENTRY_CLASS)
+        return classes;
+    }();
+#undef CC_ENTRY_CLASS
     return classes.contains(className);
 }
 
