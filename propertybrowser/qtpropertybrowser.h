@@ -137,14 +137,14 @@ public:
         m_managers.insert(manager);
         m_managerObjects.insert(manager, manager);
         connectPropertyManager(manager);
-        connect(manager, SIGNAL(destroyed(QObject *)), this, SLOT(managerDestroyed(QObject *)));
+        connect(manager, &QObject::destroyed, this, &QtAbstractEditorFactory::managerDestroyed);
     }
 
     void removePropertyManager(PropertyManager *manager)
     {
         if (!m_managers.contains(manager))
             return;
-        disconnect(manager, SIGNAL(destroyed(QObject *)), this, SLOT(managerDestroyed(QObject *)));
+        disconnect(manager, &QObject::destroyed, this, &QtAbstractEditorFactory::managerDestroyed);
         disconnectPropertyManager(manager);
         m_managers.remove(manager);
         m_managerObjects.remove(manager);

@@ -61,20 +61,20 @@ FormWindowBase *DesignerEditorFactory::formWindowBase() const { return m_formWin
 void DesignerEditorFactory::connectPropertyManager(QtVariantPropertyManager *manager)
 {
     m_resetDecorator->connectPropertyManager(manager);
-    connect(manager, SIGNAL(valueChanged(QtProperty *, QVariant)), this,
-            SLOT(slotValueChanged(QtProperty *, QVariant)));
-    connect(manager, SIGNAL(attributeChanged(QtProperty *, QString, QVariant)), this,
-            SLOT(slotAttributeChanged(QtProperty *, QString, QVariant)));
+    connect(manager, &QtVariantPropertyManager::valueChanged, this,
+            &DesignerEditorFactory::slotValueChanged);
+    connect(manager, &QtVariantPropertyManager::attributeChanged, this,
+            &DesignerEditorFactory::slotAttributeChanged);
     QtVariantEditorFactory::connectPropertyManager(manager);
 }
 
 void DesignerEditorFactory::disconnectPropertyManager(QtVariantPropertyManager *manager)
 {
     m_resetDecorator->disconnectPropertyManager(manager);
-    disconnect(manager, SIGNAL(valueChanged(QtProperty *, QVariant)), this,
-               SLOT(slotValueChanged(QtProperty *, QVariant)));
-    disconnect(manager, SIGNAL(attributeChanged(QtProperty *, QString, QVariant)), this,
-               SLOT(slotAttributeChanged(QtProperty *, QString, QVariant)));
+    disconnect(manager, &QtVariantPropertyManager::valueChanged, this,
+               &DesignerEditorFactory::slotValueChanged);
+    disconnect(manager, &QtVariantPropertyManager::attributeChanged, this,
+               &DesignerEditorFactory::slotAttributeChanged);
     QtVariantEditorFactory::disconnectPropertyManager(manager);
 }
 

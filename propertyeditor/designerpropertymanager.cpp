@@ -84,8 +84,9 @@ DesignerPropertyManager::DesignerPropertyManager(QDesignerFormEditorInterface *c
                                                  QObject *parent)
     : QtVariantPropertyManager(parent), m_core(core)
 {
-    connect(this, SIGNAL(valueChanged(QtProperty *, QVariant)), this,
-            SLOT(slotValueChanged(QtProperty *, QVariant)));
+    connect(this,
+            qOverload<QtProperty *, const QVariant &>(&QtVariantPropertyManager::valueChanged),
+            this, &DesignerPropertyManager::slotValueChanged);
 }
 
 DesignerPropertyManager::~DesignerPropertyManager()

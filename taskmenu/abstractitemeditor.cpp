@@ -77,12 +77,14 @@ AbstractItemEditor::AbstractItemEditor(QDesignerFormWindowInterface *form, QWidg
             static_cast<QtVariantPropertyManager *>(m_propertyManager),
             static_cast<QtVariantEditorFactory *>(m_editorFactory));
 
-    connect(m_editorFactory, SIGNAL(resetProperty(QtProperty *)), this,
-            SLOT(resetProperty(QtProperty *)));
-    connect(m_propertyManager, SIGNAL(valueChanged(QtProperty *, QVariant, bool)), this,
-            SLOT(propertyChanged(QtProperty *)));
+    connect(m_editorFactory, &DesignerEditorFactory::resetProperty, this,
+            &AbstractItemEditor::resetProperty);
+    connect(m_propertyManager,
+            qOverload<QtProperty *, const QVariant &, bool>(&DesignerPropertyManager::valueChanged),
+            this, &AbstractItemEditor::propertyChanged);
     if (m_iconCache)
-        connect(m_iconCache, SIGNAL(reloaded()), this, SLOT(cacheReloaded()));
+        connect(m_iconCache, &DesignerIconCache::reloaded, this,
+                &AbstractItemEditor::cacheReloaded);
 }
 
 AbstractItemEditor::~AbstractItemEditor()

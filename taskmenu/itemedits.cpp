@@ -1,9 +1,13 @@
 #include "itemedits.h"
 
 #include "changecommands.h"
+#include "checkcomboeditor.h"
+#include "comboboxeditor.h"
 #include "drawbackboxeditor.h"
-#include "listeditors.h"
-#include "matrixeditors.h"
+#include "matrixbuttonsdialog.h"
+#include "matrixpopbuttonsdialog.h"
+#include "optioncomboeditor.h"
+#include "optionseditor.h"
 #include "taskmenus.h"
 
 #include <nui/CommonControls/CcAbstractMatrixOptions.hpp>

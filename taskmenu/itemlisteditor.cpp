@@ -14,7 +14,8 @@ ItemListEditor::ItemListEditor(QDesignerFormWindowInterface *form, QWidget *pare
 {
     ui.setupUi(this);
     injectPropertyBrowser(this, ui.widget);
-    connect(ui.showPropertiesButton, SIGNAL(clicked()), this, SLOT(togglePropertyBrowser()));
+    connect(ui.showPropertiesButton, &QAbstractButton::clicked, this,
+            &ItemListEditor::togglePropertyBrowser);
     ui.showPropertiesButton->setText(tr("Properties &<<"));
     m_propertyBrowser->hide();
 
@@ -23,10 +24,10 @@ ItemListEditor::ItemListEditor(QDesignerFormWindowInterface *form, QWidget *pare
     ui.newListItemButton->setIcon(createIconSet(QStringLiteral("plus.png")));
     ui.deleteListItemButton->setIcon(createIconSet(QStringLiteral("minus.png")));
 
-    // Made while this is an ItemListEditor, this connection reaches our own cacheReloaded();
-    // the base's connection reaches the base's, so a reload runs both.
+    // Besides the base's connection to its own cacheReloaded(), so a reload runs both.
     if (iconCache())
-        connect(iconCache(), SIGNAL(reloaded()), this, SLOT(cacheReloaded()));
+        connect(iconCache(), &qdesigner_internal::DesignerIconCache::reloaded, this,
+                &ItemListEditor::cacheReloaded);
 }
 
 void ItemListEditor::setupEditor(QWidget *object, const PropertyDefinition *table)

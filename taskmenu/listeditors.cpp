@@ -1,4 +1,9 @@
-#include "listeditors.h"
+// The item editors of the combo boxes and option groups.
+
+#include "checkcomboeditor.h"
+#include "comboboxeditor.h"
+#include "optioncomboeditor.h"
+#include "optionseditor.h"
 
 #include "designerpropertymanager.h"
 #include "entrystringattributes.h"

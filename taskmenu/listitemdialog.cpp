@@ -16,8 +16,8 @@ ListItemDialog::ListItemDialog(QDesignerFormWindowInterface *form, QWidget *pare
 {
     setWindowFlags(windowFlags() & ~Qt::WindowContextHelpButtonHint);
     auto *buttonBox = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
-    connect(buttonBox, SIGNAL(accepted()), this, SLOT(accept()));
-    connect(buttonBox, SIGNAL(rejected()), this, SLOT(reject()));
+    connect(buttonBox, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(buttonBox, &QDialogButtonBox::rejected, this, &QDialog::reject);
 
     m_itemListEditor->layout()->setContentsMargins(0, 0, 0, 0);
     m_itemListEditor->setNewItemText(tr("New Item"));

@@ -1,4 +1,7 @@
-#include "matrixeditors.h"
+// The table editors of the button matrices and the dialogs that hold them.
+
+#include "matrixbuttonsdialog.h"
+#include "matrixpopbuttonsdialog.h"
 
 #include "designerpropertymanager.h"
 #include "itempropertybrowser.h"
@@ -34,20 +37,24 @@ MatrixEditorBase<Matrix>::MatrixEditorBase(QDesignerFormWindowInterface *form, Q
 }
 
 template<class Matrix>
-void MatrixEditorBase<Matrix>::finishSetup()
+template<class Editor>
+void MatrixEditorBase<Matrix>::finishSetup(Editor *editor)
 {
-    connect(m_ui.showPropertiesButton, SIGNAL(clicked()), this, SLOT(togglePropertyBrowser()));
+    connect(m_ui.showPropertiesButton, &QAbstractButton::clicked, editor,
+            &Editor::togglePropertyBrowser);
     m_ui.showPropertiesButton->setText(metaObject()->tr("Properties &<<", nullptr, -1));
     m_propertyBrowser->hide();
     // Also takes the editor, an empty child of the dialog, out of sight.
     setWindowFlags(windowFlags() & ~Qt::WindowContextHelpButtonHint);
     m_ui.tableWidget->setSelectionMode(QAbstractItemView::SingleSelection);
-    connect(m_ui.tableWidget, SIGNAL(currentCellChanged(int, int, int, int)), this,
-            SLOT(on_tableWidget_currentCellChanged(int, int, int, int)));
-    connect(m_ui.tableWidget, SIGNAL(itemChanged(QTableWidgetItem *)), this,
-            SLOT(on_tableWidget_itemChanged(QTableWidgetItem *)));
-    connect(m_ui.rowCounts, SIGNAL(valueChanged(int)), this, SLOT(on_rowCountsChanged(int)));
-    connect(m_ui.colCounts, SIGNAL(valueChanged(int)), this, SLOT(on_colCountsChanged(int)));
+    connect(m_ui.tableWidget, &QTableWidget::currentCellChanged, editor,
+            &Editor::on_tableWidget_currentCellChanged);
+    connect(m_ui.tableWidget, &QTableWidget::itemChanged, editor,
+            &Editor::on_tableWidget_itemChanged);
+    connect(m_ui.rowCounts, qOverload<int>(&QSpinBox::valueChanged), editor,
+            &Editor::on_rowCountsChanged);
+    connect(m_ui.colCounts, qOverload<int>(&QSpinBox::valueChanged), editor,
+            &Editor::on_colCountsChanged);
 }
 
 template<class Matrix>
@@ -161,7 +168,7 @@ template class MatrixEditorBase<VoCc::MatrixPopButtons>;
 MatrixButtonsEditor::MatrixButtonsEditor(QDesignerFormWindowInterface *form, QWidget *parent)
     : MatrixEditorBase(form, parent)
 {
-    finishSetup();
+    finishSetup(this);
 }
 
 void MatrixButtonsEditor::on_tableWidget_currentCellChanged(int currentRow, int currentCol, int,
@@ -175,7 +182,7 @@ void MatrixButtonsEditor::on_tableWidget_currentCellChanged(int currentRow, int 
 MatrixPopButtonsEditor::MatrixPopButtonsEditor(QDesignerFormWindowInterface *form, QWidget *parent)
     : MatrixEditorBase(form, parent)
 {
-    finishSetup();
+    finishSetup(this);
 }
 
 void MatrixPopButtonsEditor::on_tableWidget_currentCellChanged(int currentRow, int currentCol, int,
