@@ -1,0 +1,276 @@
+#pragma once
+
+#include "designertestcore.h"
+#include "modalanswer.h"
+
+#include <QDesignerFormEditorInterface>
+#include <QDesignerTaskMenuExtension>
+#include <QExtensionManager>
+#include <QCheckBox>
+#include <QHeaderView>
+#include <QListWidget>
+#include <QMenu>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QTableWidget>
+#include <QToolButton>
+#include <QTreeWidget>
+#include <QtTest>
+
+namespace CcTest {
+
+// Works an item editor dialog the way a user does: through its buttons and spin boxes, the
+// in-place editor of its list or table and the editors of the property pane, found by their
+// object names and Qt classes only (the dialog's own classes live inside the plug-in module).
+// What it cannot find or do is kept in failures(), not reported to QtTest: a randomized session
+// runs the driver many times over and decides itself which runs failed. After the first
+// failure every further action is passed over.
+class ItemDialogDriver
+{
+public:
+    explicit ItemDialogDriver(QDialog *dialog)
+        : m_dialog(dialog),
+          m_list(dialog->findChild<QListWidget *>(QStringLiteral("listWidget"))),
+          m_table(dialog->findChild<QTableWidget *>(QStringLiteral("tableWidget"))),
+          m_pane(dialog->findChild<QTreeWidget *>())
+    {
+        if (!m_list && !m_table)
+            fail(QStringLiteral("no QListWidget \"listWidget\" or QTableWidget \"tableWidget\""));
+        if (!m_pane)
+            fail(QStringLiteral("no property pane (a QTreeWidget)"));
+        else if (!m_pane->isVisible())
+            click("showPropertiesButton");
+    }
+    const QStringList &failures() const { return m_failures; }
+    bool ok() const { return m_failures.isEmpty(); }
+    void fail(const QString &what) { m_failures.append(what); }
+
+    QDialog *dialog() const { return m_dialog; }
+    QListWidget *list() const { return m_list; }
+    QTableWidget *table() const { return m_table; }
+    template<class T>
+    T *child(const char *name) const
+    {
+        return m_dialog->findChild<T *>(QLatin1String(name));
+    }
+
+    // The texts of the list's rows, or of the table's cells row by row.
+    QStringList rows() const
+    {
+        QStringList texts;
+        for (int i = 0; m_list && i < m_list->count(); ++i)
+            texts.append(m_list->item(i)->text());
+        for (int r = 0; m_table && r < m_table->rowCount(); ++r) {
+            for (int c = 0; c < m_table->columnCount(); ++c)
+                texts.append(m_table->item(r, c) ? m_table->item(r, c)->text() : QString());
+        }
+        return texts;
+    }
+    // The names of the pane's properties, top to bottom, and one's value as it shows. A
+    // sub-property is named through its parent: "text/comment".
+    QStringList propertyNames() const
+    {
+        QStringList names;
+        for (int i = 0; i < m_pane->topLevelItemCount(); ++i)
+            names.append(m_pane->topLevelItem(i)->text(0));
+        return names;
+    }
+    QString propertyValue(const QString &name) const
+    {
+        const QTreeWidgetItem *item = propertyItem(name);
+        return item ? item->text(1) : QStringLiteral("<no %1>").arg(name);
+    }
+
+    void select(int row)
+    {
+        if (!ok() || !m_list->item(row))
+            return fail(QStringLiteral("no row %1 to select").arg(row));
+        m_list->scrollToItem(m_list->item(row));
+        QTest::mouseClick(m_list->viewport(), Qt::LeftButton, {},
+                          m_list->visualItemRect(m_list->item(row)).center());
+    }
+    void selectCell(int row, int column)
+    {
+        if (!ok())
+            return;
+        const QModelIndex index = m_table->model()->index(row, column);
+        m_table->scrollTo(index);
+        QTest::mouseClick(m_table->viewport(), Qt::LeftButton, {},
+                          m_table->visualRect(index).center());
+    }
+    // Steps the spin box "rowCounts" or "colCounts" to value with the arrow keys.
+    void stepTo(const char *spinBox, int value)
+    {
+        auto *spin = child<QSpinBox>(spinBox);
+        if (!ok() || !spin)
+            return fail(QStringLiteral("no spin box %1").arg(QLatin1String(spinBox)));
+        while (spin->value() != value) {
+            const int before = spin->value();
+            QTest::keyClick(spin, before < value ? Qt::Key_Up : Qt::Key_Down);
+            if (spin->value() == before)
+                return fail(QStringLiteral("%1 stops at %2 before %3")
+                                    .arg(QLatin1String(spinBox)).arg(before).arg(value));
+        }
+    }
+    // Clicks one of "newListItemButton", "deleteListItemButton", "moveListItemUpButton",
+    // "moveListItemDownButton".
+    void click(const char *button)
+    {
+        auto *target = child<QAbstractButton>(button);
+        if (!ok() || !target)
+            return fail(QStringLiteral("no button %1").arg(QLatin1String(button)));
+        QTest::mouseClick(target, Qt::LeftButton);
+    }
+    // New below the current row, named by typing into the in-place editor.
+    void addRow(const QString &text)
+    {
+        click("newListItemButton");
+        typeIntoShownEditor(m_list->viewport(), text);
+    }
+    // Types a new text for the current row or cell into the in-place editor.
+    void renameCurrent(const QString &text)
+    {
+        if (!ok())
+            return;
+        QAbstractItemView *view = m_list ? static_cast<QAbstractItemView *>(m_list) : m_table;
+        QTest::keyClick(view, Qt::Key_F2);
+        typeIntoShownEditor(view->viewport(), text);
+    }
+    // Types a value into a string property of the current row.
+    void typeProperty(const QString &name, const QString &text)
+    {
+        openPropertyEditor(name);
+        typeIntoShownEditor(m_pane->viewport(), text);
+    }
+    // Clicks a check box property (a string's "translatable") of the current row.
+    void toggleProperty(const QString &name)
+    {
+        if (!openPropertyEditor(name))
+            return;
+        const QList<QCheckBox *> boxes = m_pane->viewport()->findChildren<QCheckBox *>();
+        auto shown = std::find_if(boxes.cbegin(), boxes.cend(),
+                                  [](const QCheckBox *box) { return box->isVisible(); });
+        if (shown == boxes.cend())
+            return fail(QStringLiteral("no check box for %1").arg(name));
+        QTest::mouseClick(*shown, Qt::LeftButton);
+        settle();
+    }
+    // Picks a file for an icon property of the current row through the file dialog.
+    void chooseIconFile(const QString &name, const QString &path)
+    {
+        if (!openPropertyEditor(name))
+            return;
+        QAction *chooseFile = nullptr;
+        for (QToolButton *button : m_pane->viewport()->findChildren<QToolButton *>()) {
+            for (QAction *action : button->isVisible() && button->menu() ? button->menu()->actions()
+                                                                         : QList<QAction *>()) {
+                if (action->text() == QLatin1String("Choose File..."))
+                    chooseFile = action;
+            }
+        }
+        if (!chooseFile)
+            return fail(QStringLiteral("no \"Choose File...\" for %1").arg(name));
+        if (!answerModal<QFileDialog>([chooseFile] { chooseFile->trigger(); },
+                                      [path](QFileDialog *dialog) { typeFileName(dialog, path); }))
+            fail(QStringLiteral("no file dialog for %1").arg(name));
+        settle();
+    }
+
+private:
+    QTreeWidgetItem *propertyItem(const QString &name) const
+    {
+        const QStringList path = name.split(QLatin1Char('/'));
+        QTreeWidgetItem *item = m_pane->findItems(path.first(), Qt::MatchExactly).value(0);
+        for (int i = 1; item && i < path.size(); ++i) {
+            item->setExpanded(true);
+            QTreeWidgetItem *parent = item;
+            item = nullptr;
+            for (int c = 0; c < parent->childCount(); ++c) {
+                if (parent->child(c)->text(0) == path.at(i))
+                    item = parent->child(c);
+            }
+        }
+        return item;
+    }
+    // Tells whether the property was there to open.
+    bool openPropertyEditor(const QString &name)
+    {
+        QTreeWidgetItem *item = propertyItem(name);
+        if (!ok() || !item) {
+            fail(QStringLiteral("no property %1").arg(name));
+            return false;
+        }
+        m_pane->scrollToItem(item);
+        // A click on the value column opens the property's editor.
+        const QHeaderView *header = m_pane->header();
+        const QPoint valueCell(header->sectionViewportPosition(1) + header->sectionSize(1) / 2,
+                               m_pane->visualItemRect(item).center().y());
+        QTest::mouseClick(m_pane->viewport(), Qt::LeftButton, {}, valueCell);
+        settle();
+        return true;
+    }
+    // Types into the line edit an editor has just opened among parent's children, over what
+    // it held, and ends the editing with Return.
+    void typeIntoShownEditor(QWidget *parent, const QString &text)
+    {
+        if (!ok())
+            return;
+        const QList<QLineEdit *> edits = parent->findChildren<QLineEdit *>();
+        auto shown = std::find_if(edits.cbegin(), edits.cend(),
+                                  [](const QLineEdit *edit) { return edit->isVisible(); });
+        if (shown == edits.cend())
+            return fail(QStringLiteral("no editor open to type %1").arg(text));
+        (*shown)->selectAll();
+        QTest::keyClick(*shown, Qt::Key_Backspace);
+        for (const QChar c : text) {
+            // QTest spells out ASCII only; other letters come as the text of a key of their own.
+            if (c.unicode() < 128)
+                QTest::keyClick(*shown, c.toLatin1());
+            else
+                QTest::sendKeyEvent(QTest::Click, *shown, Qt::Key_unknown, QString(c),
+                                    Qt::NoModifier);
+        }
+        QTest::keyClick(*shown, Qt::Key_Return);
+        settle();
+    }
+
+    QDialog *m_dialog;
+    QListWidget *m_list;
+    QTableWidget *m_table;
+    QTreeWidget *m_pane;
+    QStringList m_failures;
+};
+
+inline QDesignerTaskMenuExtension *taskMenuOf(QObject *widget)
+{
+    return qt_extension<QDesignerTaskMenuExtension *>(designerCore()->extensionManager(), widget);
+}
+
+// Triggers entry, works the editor it opens with act and presses OK or Cancel. Returns what
+// went wrong, empty when nothing did: no editor came up, or the driver's failures.
+inline QString editThrough(QAction *entry, const std::function<void(ItemDialogDriver &)> &act,
+                           bool accept = true)
+{
+    QStringList failures;
+    const auto work = [&act, &failures](QDialog *dialog) {
+        ItemDialogDriver driver(dialog);
+        if (driver.ok())
+            act(driver);
+        failures = driver.failures();
+    };
+    if (!answerModal<QDialog>([entry] { entry->trigger(); }, work, accept))
+        return QStringLiteral("no editor came up");
+    return failures.join(QStringLiteral("; "));
+}
+
+// The same through the widget's context-menu entry.
+inline QString edit(QWidget *widget, const std::function<void(ItemDialogDriver &)> &act,
+                    bool accept = true)
+{
+    QDesignerTaskMenuExtension *menu = taskMenuOf(widget);
+    if (!menu)
+        return QStringLiteral("no task menu");
+    return editThrough(menu->preferredEditAction(), act, accept);
+}
+
+} // namespace CcTest
