@@ -99,7 +99,9 @@ private slots:
         QVERIFY(collection);
         m_module = sharedObjectOf(&typeid(*collection));
         m_library = sharedObjectOf(&VoCc::ComboBox::staticMetaObject);
-        QVERIFY(m_module && m_library && m_module != m_library);
+        QVERIFY(m_module);
+        QVERIFY(m_library);
+        QVERIFY(m_module != m_library);
     }
 
     void cleanupTestCase()
@@ -181,13 +183,17 @@ private:
             dialog.typeProperty(QStringLiteral("text"), QStringLiteral("r"));
         };
         QWidget *main = form->mainContainer();
-        QVERIFY(CcTest::edit(main->findChild<VoCc::ComboBox *>(), addEntry));
-        QVERIFY(CcTest::edit(main->findChild<VoCc::DrawbackBoxGroup *>(), addEntry));
-        QVERIFY(CcTest::edit(main->findChild<VoCc::MatrixPushButtons *>(), [](Driver &dialog) {
-            dialog.stepTo("rowCounts", dialog.child<QSpinBox>("rowCounts")->value() + 1);
-            dialog.selectCell(0, 0);
-            dialog.typeProperty(QStringLiteral("toolTip"), QStringLiteral("t"));
-        }));
+        QCOMPARE(CcTest::edit(main->findChild<VoCc::ComboBox *>(), addEntry), QString());
+        QCOMPARE(CcTest::edit(main->findChild<VoCc::DrawbackBoxGroup *>(), addEntry), QString());
+        QCOMPARE(CcTest::edit(main->findChild<VoCc::MatrixPushButtons *>(),
+                              [](Driver &dialog) {
+                                  dialog.stepTo("rowCounts",
+                                                dialog.child<QSpinBox>("rowCounts")->value() + 1);
+                                  dialog.selectCell(0, 0);
+                                  dialog.typeProperty(QStringLiteral("toolTip"),
+                                                      QStringLiteral("t"));
+                              }),
+                 QString());
 
         // The property change, the list, the page group, the matrix with its two counts: all
         // undone, all redone, saved.

@@ -3,10 +3,10 @@
 #include "designertestcore.h"
 #include "modalanswer.h"
 
+#include <QCheckBox>
 #include <QDesignerFormEditorInterface>
 #include <QDesignerTaskMenuExtension>
 #include <QExtensionManager>
-#include <QCheckBox>
 #include <QHeaderView>
 #include <QListWidget>
 #include <QMenu>
@@ -109,7 +109,9 @@ public:
             QTest::keyClick(spin, before < value ? Qt::Key_Up : Qt::Key_Down);
             if (spin->value() == before)
                 return fail(QStringLiteral("%1 stops at %2 before %3")
-                                    .arg(QLatin1String(spinBox)).arg(before).arg(value));
+                                    .arg(QLatin1String(spinBox))
+                                    .arg(before)
+                                    .arg(value));
         }
     }
     // Clicks one of "newListItemButton", "deleteListItemButton", "moveListItemUpButton",
