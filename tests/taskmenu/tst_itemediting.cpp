@@ -12,7 +12,7 @@
 // a session's value (the driver keeps its failures), never QtTest's state, so that shrinking
 // keeps only the sessions that fail themselves.
 // CC_RANDOM_SESSIONS (default 300) sets how many sessions run, CC_RANDOM_SEED (default 1) the
-// seed of the first; session i uses seed + i. They run as data rows of 30 sessions each.
+// seed of the first; session i uses seed + i. They run as data rows of 10 sessions each.
 
 #include "designertestcore.h"
 #include "itemdialogdriver.h"
@@ -875,7 +875,7 @@ private slots:
         QTest::addColumn<int>("count");
         const int sessions = qEnvironmentVariable("CC_RANDOM_SESSIONS", "300").toInt();
         const quint32 seed = qEnvironmentVariable("CC_RANDOM_SEED", "1").toUInt();
-        const int perRow = 30;
+        const int perRow = 10;
         for (int i = 0; i < sessions; i += perRow) {
             const int count = qMin(perRow, sessions - i);
             QTest::addRow("seeds %u-%u", seed + quint32(i), seed + quint32(i + count - 1))
