@@ -11,7 +11,10 @@
 
 #include <QBuffer>
 #include <QCoreApplication>
+#include <QHeaderView>
 #include <QMetaEnum>
+#include <QTableView>
+#include <QTreeView>
 #include <QXmlStreamReader>
 
 namespace VoCc {
@@ -358,6 +361,38 @@ void warnOfDroppedItems(const DomWidget *domWidget, const QWidget *widget)
                  qPrintable(kept->join(QStringLiteral(", "))));
 }
 
+// Qt's writer saves a tree or table view's headers as "header..." attributes of the view: it
+// asks for every property of each header and keeps these, but does not delete the others.
+bool isItemViewHeader(const QObject *object)
+{
+    const auto *header = qobject_cast<const QHeaderView *>(object);
+    if (!header)
+        return false;
+    if (const auto *tree = qobject_cast<const QTreeView *>(header->parent()))
+        return tree->header() == header;
+    const auto *table = qobject_cast<const QTableView *>(header->parent());
+    return table && (table->horizontalHeader() == header || table->verticalHeader() == header);
+}
+
+QList<DomProperty *> keptAsHeaderAttributes(const QList<DomProperty *> &properties)
+{
+    static const QStringList kept = {QStringLiteral("visible"),
+                                     QStringLiteral("cascadingSectionResizes"),
+                                     QStringLiteral("minimumSectionSize"),
+                                     QStringLiteral("defaultSectionSize"),
+                                     QStringLiteral("highlightSections"),
+                                     QStringLiteral("showSortIndicator"),
+                                     QStringLiteral("stretchLastSection")};
+    QList<DomProperty *> result;
+    for (DomProperty *property : properties) {
+        if (kept.contains(property->attributeName()))
+            result.append(property);
+        else
+            delete property;
+    }
+    return result;
+}
+
 } // namespace
 
 FormBuilder::FormBuilder()
@@ -568,7 +603,8 @@ QList<DomProperty *> FormBuilder::computeProperties(QObject *object)
         domProperty->setElementSet(keys.join(QLatin1Char('|')));
         properties.append(domProperty);
     }
-    return properties;
+    // Only what the writer keeps of an item view's header, so that it drops nothing.
+    return isItemViewHeader(object) ? keptAsHeaderAttributes(properties) : properties;
 }
 
 bool FormBuilder::checkProperty(QObject *object, const QString &propertyName) const

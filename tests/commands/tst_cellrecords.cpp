@@ -118,7 +118,8 @@ private slots:
         QCOMPARE(roles(CellRecords::fromItem(&plain, false)), roles(record));
         QTableWidgetItem edited;
         CellRecords::toItem(record, &edited, nullptr, true);
-        QVERIFY((edited.flags() & Qt::ItemIsEnabled) && (edited.flags() & Qt::ItemIsEditable));
+        QVERIFY(edited.flags() & Qt::ItemIsEnabled);
+        QVERIFY(edited.flags() & Qt::ItemIsEditable);
         QCOMPARE(edited.data(flagsRole), record.value(flagsRole));
     }
 
@@ -143,7 +144,8 @@ private slots:
         // Translation marks laid out as the lists, or none at all where nothing is marked.
         QVariantList textMarks, tipMarks;
         contents.toAttributeLists(&textMarks, &tipMarks);
-        QVERIFY(textMarks.isEmpty() && tipMarks.isEmpty());
+        QVERIFY(textMarks.isEmpty());
+        QVERIFY(tipMarks.isEmpty());
         contents.cells[{0, 2}] = CellRecords::fromStrings({"c", {}, {}, {}, {{"id", "c"}}}, true);
         contents.toAttributeLists(&textMarks, &tipMarks);
         QCOMPARE(textMarks, QVariantList({QVariantMap(), QVariantMap(), QVariantMap({{"id", "c"}}),
@@ -163,7 +165,9 @@ private slots:
         back.cells[{1, 1}] = CellRecords::fromStrings({"e", {}, {}, {}}, true);
         QVERIFY(!sameCells(back, contents));
         back.clear();
-        QVERIFY(back.cells.isEmpty() && back.rowCount == 0 && back.columnCount == 0);
+        QVERIFY(back.cells.isEmpty());
+        QCOMPARE(back.rowCount, 0);
+        QCOMPARE(back.columnCount, 0);
     }
 
     void stringAttributesByName()

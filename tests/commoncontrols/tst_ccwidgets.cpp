@@ -130,8 +130,10 @@ void checkGrid(Grid *grid)
     QCOMPARE(grid->buttonCount(), 12);
     QCOMPARE(grid->button(11)->text(), QStringLiteral("b11"));
     QCOMPARE(grid->button(11)->toolTip(), QStringLiteral("tip 11"));
-    QVERIFY(!grid->button(0)->icon().isNull() && grid->button(1)->icon().isNull());
-    QVERIFY(!grid->button(12) && !grid->button(-1));
+    QVERIFY(!grid->button(0)->icon().isNull());
+    QVERIFY(grid->button(1)->icon().isNull());
+    QVERIFY(!grid->button(12));
+    QVERIFY(!grid->button(-1));
     // Button 5 of a 3 x 4 grid sits in row 1, column 1.
     grid->resize(400, 120);
     grid->show();
@@ -158,7 +160,8 @@ void checkGrid(Grid *grid)
 
     // Shrinking the grid drops buttons, not entries; a grid of nothing has no buttons.
     grid->setRow(1);
-    QVERIFY(grid->button(3) && !grid->button(4));
+    QVERIFY(grid->button(3));
+    QVERIFY(!grid->button(4));
     QCOMPARE(grid->toolTips().size(), 12);
     grid->setColumn(-3);
     QCOMPARE(grid->column(), 0);
@@ -355,7 +358,8 @@ private slots:
         QPointer<QWidget> removed = group.widget(2);
         group.removePage(2);
         group.removePage(17);
-        QVERIFY(removed && removed->isHidden());
+        QVERIFY(removed);
+        QVERIFY(removed->isHidden());
         QCOMPARE(group.indexOf(removed), -1);
         QCOMPARE(pages(group, currentChanged), QStringLiteral("0 A [C] D <- 2"));
         group.removePage(0);
@@ -481,7 +485,8 @@ private slots:
         edit.setText(QStringLiteral("abc"));
         QVERIFY(clear->isVisible());
         clear->trigger();
-        QVERIFY(edit.text().isEmpty() && !clear->isVisible());
+        QVERIFY(edit.text().isEmpty());
+        QVERIFY(!clear->isVisible());
 
         // Input must match the pattern; an invalid pattern changes nothing.
         edit.setPattern(QStringLiteral("[A-Z]-[0-9]*"));

@@ -421,7 +421,8 @@ private slots:
         QCoreApplication::installTranslator(&recorder);
         QScopedPointer<QWidget> example(load(exampleForm, true, true));
         QScopedPointer<QWidget> qtWidgets(load(qtWidgetsForm, true, true));
-        QVERIFY(example && qtWidgets);
+        QVERIFY(example);
+        QVERIFY(qtWidgets);
         for (int round = 0; round < 2; ++round) {
             QSet<Message> asked;
             for (const Message &message : qAsConst(recorder.asked)) {

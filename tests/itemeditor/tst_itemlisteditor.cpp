@@ -74,7 +74,8 @@ private slots:
         QVERIFY(qobject_cast<FormWindowBase *>(m_form));
         m_object = CcTest::formChild(m_form, "combo");
         QVERIFY(m_object);
-        QVERIFY(!m_pictures.red.isEmpty() && !m_pictures.blue.isEmpty());
+        QVERIFY(!m_pictures.red.isEmpty());
+        QVERIFY(!m_pictures.blue.isEmpty());
     }
 
     void cleanup() { m_editor.reset(); }
@@ -156,7 +157,8 @@ private slots:
         ItemPropertyBrowser *browser = editor->propertyBrowser();
         const auto resetInThePane = [browser](QtProperty *property) {
             auto *reset = openEditor<ResetWidget>(browser, property);
-            QVERIFY(reset && reset->resetButton()->isEnabled());
+            QVERIFY(reset);
+            QVERIFY(reset->resetButton()->isEnabled());
             reset->resetButton()->click();
         };
 
@@ -195,7 +197,8 @@ private slots:
                     continue;
                 QSignalSpy changed(editor, &ItemListEditor::itemChanged);
                 property->setValue(c.value);
-                QVERIFY2(item->data(c.role).isValid() && property->isModified(), c.property);
+                QVERIFY2(item->data(c.role).isValid(), c.property);
+                QVERIFY2(property->isModified(), c.property);
                 QCOMPARE(changed.first().mid(0, 2), QVariantList({1, c.role}));
                 const QVariant plain = item->data(c.plainRole);
                 if (c.plainRole == Qt::DecorationRole)
@@ -210,8 +213,10 @@ private slots:
                     resetInThePane(property);
                 else
                     property->setValue(c.defaultValue);
-                QVERIFY2(!item->data(c.role).isValid() && !property->isModified(), c.property);
-                QVERIFY(!changed.isEmpty() && !changed.first().at(2).isValid());
+                QVERIFY2(!item->data(c.role).isValid(), c.property);
+                QVERIFY2(!property->isModified(), c.property);
+                QVERIFY(!changed.isEmpty());
+                QVERIFY(!changed.first().at(2).isValid());
                 QCOMPARE(changed.first().at(1).toInt(), c.role);
                 if (c.plainRole >= 0) {
                     QVERIFY2(qvariant_cast<QIcon>(item->data(c.plainRole)).isNull()
@@ -271,7 +276,8 @@ private slots:
         const auto clickNew = [&] {
             click("newListItemButton");
             QLineEdit *inPlace = list->findChild<QLineEdit *>();
-            QVERIFY(inPlace && inPlace->isVisible());
+            QVERIFY(inPlace);
+            QVERIFY(inPlace->isVisible());
             QCOMPARE(inPlace->text(), QStringLiteral("New Item"));
             QTest::keyClick(inPlace, Qt::Key_Escape);
             CcTest::settle();

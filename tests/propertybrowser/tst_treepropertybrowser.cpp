@@ -163,7 +163,8 @@ private slots:
         QVERIFY(fontRow->child(2)->flags() & Qt::ItemIsEnabled);
 
         // A group has no value: one cell across the row, darker when marked.
-        QVERIFY(groupRow->isFirstColumnSpanned() && !(groupRow->flags() & Qt::ItemIsEditable));
+        QVERIFY(groupRow->isFirstColumnSpanned());
+        QVERIFY(!(groupRow->flags() & Qt::ItemIsEditable));
         browser->setPropertiesWithoutValueMarked(true);
         QCOMPARE(groupRow->background(0).color(), browser->palette().color(QPalette::Dark));
 

@@ -114,7 +114,8 @@ private slots:
 
         // Only the multi-line and rich-text editors have a dialog button.
         auto *singleEditor = CcTest::openEditor<TextEditor>(&pane.browser, single);
-        QVERIFY(singleEditor && !singleEditor->dialogButton()->isVisibleTo(singleEditor));
+        QVERIFY(singleEditor);
+        QVERIFY(!singleEditor->dialogButton()->isVisibleTo(singleEditor));
         QTest::keyClicks(singleEditor->findChild<QLineEdit *>(), QStringLiteral("typed"));
         QCOMPARE(stringOf(single->value()).value(), QStringLiteral("typed"));
 
@@ -128,11 +129,13 @@ private slots:
         QCOMPARE(stringOf(multi->value()).comment(), QStringLiteral("a verb"));
         // They have no reset of their own.
         auto *commentEditor = CcTest::openEditor<QLineEdit>(&pane.browser, comment);
-        QVERIFY(commentEditor && !qobject_cast<ResetWidget *>(commentEditor->parentWidget()));
+        QVERIFY(commentEditor);
+        QVERIFY(!qobject_cast<ResetWidget *>(commentEditor->parentWidget()));
 
         // The "..." of multi-line text opens Designer's plain-text dialog; the data stay.
         auto *multiEditor = CcTest::openEditor<TextEditor>(&pane.browser, multi);
-        QVERIFY(multiEditor && multiEditor->dialogButton()->isVisibleTo(multiEditor));
+        QVERIFY(multiEditor);
+        QVERIFY(multiEditor->dialogButton()->isVisibleTo(multiEditor));
         QString shownText;
         QVERIFY(CcTest::answerModal<PlainTextEditorDialog>(
                 [&] { multiEditor->dialogButton()->click(); },
@@ -147,7 +150,8 @@ private slots:
 
         // Rich text opens Designer's rich-text dialog; cancelled, nothing changes.
         auto *richEditor = CcTest::openEditor<TextEditor>(&pane.browser, rich);
-        QVERIFY(richEditor && richEditor->dialogButton()->isVisibleTo(richEditor));
+        QVERIFY(richEditor);
+        QVERIFY(richEditor->dialogButton()->isVisibleTo(richEditor));
         const auto clickDots = [richEditor] { richEditor->dialogButton()->click(); };
         for (const bool accept : {true, false}) {
             const auto type = [accept](RichTextEditorDialog *dialog) {
@@ -177,7 +181,8 @@ private slots:
 
         // A theme, chosen through the pixmap editor's menu and the theme dialog.
         auto *editor = CcTest::openEditor<PixmapEditor>(&pane.browser, icon);
-        QVERIFY(editor && editor->themeAction()->isVisible());
+        QVERIFY(editor);
+        QVERIFY(editor->themeAction()->isVisible());
         QVERIFY(CcTest::answerModal<IconThemeDialog>(
                 [editor] { editor->themeAction()->trigger(); },
                 [](IconThemeDialog *dialog) { dialog->setTheme(QStringLiteral("edit-copy")); }));
@@ -212,8 +217,9 @@ private slots:
         connect(&pane.manager, &QtAbstractPropertyManager::propertyChanged, this,
                 [&repainted](QtProperty *property) { repainted.append(property); });
         pane.manager.reloadResourceProperties();
-        QVERIFY(repainted.contains(icon) && repainted.contains(pixmap)
-                && !repainted.contains(text));
+        QVERIFY(repainted.contains(icon));
+        QVERIFY(repainted.contains(pixmap));
+        QVERIFY(!repainted.contains(text));
     }
 
     void fontParts()
@@ -228,7 +234,8 @@ private slots:
         QVERIFY(QTest::qWaitForWindowActive(&pane.browser));
         const QVariant sizeBefore = size->value();
         auto *spin = CcTest::openEditor<QSpinBox>(&pane.browser, size);
-        QVERIFY(spin && qobject_cast<ResetWidget *>(spin->parentWidget()));
+        QVERIFY(spin);
+        QVERIFY(qobject_cast<ResetWidget *>(spin->parentWidget()));
         QTRY_VERIFY(spin->hasFocus());
         spin->selectAll();
         QTest::keyClicks(spin, QStringLiteral("64"));
@@ -246,7 +253,9 @@ private slots:
         const QFont f = qvariant_cast<QFont>(font->value());
         QCOMPARE(f.pointSize(), m_label->font().pointSize());
         QCOMPARE(CcQt::fontResolveMask(f), uint(QFont::WeightResolved));
-        QVERIFY(f.bold() && bold->isModified() && !size->isModified());
+        QVERIFY(f.bold());
+        QVERIFY(bold->isModified());
+        QVERIFY(!size->isModified());
     }
 
     void coexistsWithDesignersOwnPropertyEditor()
@@ -303,11 +312,13 @@ private slots:
         QVERIFY(browser->inherits("QtTreePropertyBrowser"));
         QVERIFY(!qobject_cast<QtTreePropertyBrowser *>(browser));
         Dl_info info {};
-        QVERIFY(dladdr(browser->metaObject(), &info) && info.dli_fname);
+        QVERIFY(dladdr(browser->metaObject(), &info));
+        QVERIFY(info.dli_fname);
         QCOMPARE(QFileInfo(QString::fromLocal8Bit(info.dli_fname)).canonicalFilePath(),
                  QFileInfo(QStringLiteral(CC_PROPERTYBROWSER_MODULE)).canonicalFilePath());
         auto *tree = browser->findChild<QTreeWidget *>();
-        QVERIFY(tree && tree->topLevelItemCount() == 1);
+        QVERIFY(tree);
+        QCOMPARE(tree->topLevelItemCount(), 1);
         QCOMPARE(tree->topLevelItem(0)->text(0), QStringLiteral("text"));
         delete browser; // its manager and factory go with it
         // The module stays loaded: Qt keeps references to its meta-objects.

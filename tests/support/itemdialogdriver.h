@@ -3,10 +3,10 @@
 #include "designertestcore.h"
 #include "modalanswer.h"
 
+#include <QCheckBox>
 #include <QDesignerFormEditorInterface>
 #include <QDesignerTaskMenuExtension>
 #include <QExtensionManager>
-#include <QCheckBox>
 #include <QHeaderView>
 #include <QListWidget>
 #include <QMenu>
@@ -22,6 +22,9 @@ namespace CcTest {
 // Works an item editor dialog the way a user does: through its buttons and spin boxes, the
 // in-place editor of its list or table and the editors of the property pane, found by their
 // object names and Qt classes only (the dialog's own classes live inside the plug-in module).
+// What it cannot find or do is kept in failures(), not reported to QtTest: a randomized session
+// runs the driver many times over and decides itself which runs failed. After the first
+// failure every further action is passed over.
 class ItemDialogDriver
 {
 public:
@@ -31,10 +34,16 @@ public:
           m_table(dialog->findChild<QTableWidget *>(QStringLiteral("tableWidget"))),
           m_pane(dialog->findChild<QTreeWidget *>())
     {
-        if (m_pane && !m_pane->isVisible())
-            QTest::mouseClick(child<QPushButton>("showPropertiesButton"), Qt::LeftButton);
+        if (!m_list && !m_table)
+            fail(QStringLiteral("no QListWidget \"listWidget\" or QTableWidget \"tableWidget\""));
+        if (!m_pane)
+            fail(QStringLiteral("no property pane (a QTreeWidget)"));
+        else if (!m_pane->isVisible())
+            click("showPropertiesButton");
     }
-    bool isValid() const { return (m_list || m_table) && m_pane; }
+    const QStringList &failures() const { return m_failures; }
+    bool ok() const { return m_failures.isEmpty(); }
+    void fail(const QString &what) { m_failures.append(what); }
 
     QDialog *dialog() const { return m_dialog; }
     QListWidget *list() const { return m_list; }
@@ -74,12 +83,16 @@ public:
 
     void select(int row)
     {
+        if (!ok() || !m_list->item(row))
+            return fail(QStringLiteral("no row %1 to select").arg(row));
         m_list->scrollToItem(m_list->item(row));
         QTest::mouseClick(m_list->viewport(), Qt::LeftButton, {},
                           m_list->visualItemRect(m_list->item(row)).center());
     }
     void selectCell(int row, int column)
     {
+        if (!ok())
+            return;
         const QModelIndex index = m_table->model()->index(row, column);
         m_table->scrollTo(index);
         QTest::mouseClick(m_table->viewport(), Qt::LeftButton, {},
@@ -89,11 +102,16 @@ public:
     void stepTo(const char *spinBox, int value)
     {
         auto *spin = child<QSpinBox>(spinBox);
-        QVERIFY2(spin, spinBox);
+        if (!ok() || !spin)
+            return fail(QStringLiteral("no spin box %1").arg(QLatin1String(spinBox)));
         while (spin->value() != value) {
             const int before = spin->value();
             QTest::keyClick(spin, before < value ? Qt::Key_Up : Qt::Key_Down);
-            QVERIFY2(spin->value() != before, spinBox);
+            if (spin->value() == before)
+                return fail(QStringLiteral("%1 stops at %2 before %3")
+                                    .arg(QLatin1String(spinBox))
+                                    .arg(before)
+                                    .arg(value));
         }
     }
     // Clicks one of "newListItemButton", "deleteListItemButton", "moveListItemUpButton",
@@ -101,7 +119,8 @@ public:
     void click(const char *button)
     {
         auto *target = child<QAbstractButton>(button);
-        QVERIFY2(target, button);
+        if (!ok() || !target)
+            return fail(QStringLiteral("no button %1").arg(QLatin1String(button)));
         QTest::mouseClick(target, Qt::LeftButton);
     }
     // New below the current row, named by typing into the in-place editor.
@@ -113,6 +132,8 @@ public:
     // Types a new text for the current row or cell into the in-place editor.
     void renameCurrent(const QString &text)
     {
+        if (!ok())
+            return;
         QAbstractItemView *view = m_list ? static_cast<QAbstractItemView *>(m_list) : m_table;
         QTest::keyClick(view, Qt::Key_F2);
         typeIntoShownEditor(view->viewport(), text);
@@ -126,18 +147,21 @@ public:
     // Clicks a check box property (a string's "translatable") of the current row.
     void toggleProperty(const QString &name)
     {
-        openPropertyEditor(name);
+        if (!openPropertyEditor(name))
+            return;
         const QList<QCheckBox *> boxes = m_pane->viewport()->findChildren<QCheckBox *>();
         auto shown = std::find_if(boxes.cbegin(), boxes.cend(),
                                   [](const QCheckBox *box) { return box->isVisible(); });
-        QVERIFY2(shown != boxes.cend(), qPrintable(name));
+        if (shown == boxes.cend())
+            return fail(QStringLiteral("no check box for %1").arg(name));
         QTest::mouseClick(*shown, Qt::LeftButton);
         settle();
     }
     // Picks a file for an icon property of the current row through the file dialog.
     void chooseIconFile(const QString &name, const QString &path)
     {
-        openPropertyEditor(name);
+        if (!openPropertyEditor(name))
+            return;
         QAction *chooseFile = nullptr;
         for (QToolButton *button : m_pane->viewport()->findChildren<QToolButton *>()) {
             for (QAction *action : button->isVisible() && button->menu() ? button->menu()->actions()
@@ -146,9 +170,11 @@ public:
                     chooseFile = action;
             }
         }
-        QVERIFY2(chooseFile, qPrintable(name));
-        answerModal<QFileDialog>([chooseFile] { chooseFile->trigger(); },
-                                 [path](QFileDialog *dialog) { typeFileName(dialog, path); });
+        if (!chooseFile)
+            return fail(QStringLiteral("no \"Choose File...\" for %1").arg(name));
+        if (!answerModal<QFileDialog>([chooseFile] { chooseFile->trigger(); },
+                                      [path](QFileDialog *dialog) { typeFileName(dialog, path); }))
+            fail(QStringLiteral("no file dialog for %1").arg(name));
         settle();
     }
 
@@ -168,10 +194,14 @@ private:
         }
         return item;
     }
-    void openPropertyEditor(const QString &name)
+    // Tells whether the property was there to open.
+    bool openPropertyEditor(const QString &name)
     {
         QTreeWidgetItem *item = propertyItem(name);
-        QVERIFY2(item, qPrintable(name));
+        if (!ok() || !item) {
+            fail(QStringLiteral("no property %1").arg(name));
+            return false;
+        }
         m_pane->scrollToItem(item);
         // A click on the value column opens the property's editor.
         const QHeaderView *header = m_pane->header();
@@ -179,16 +209,21 @@ private:
                                m_pane->visualItemRect(item).center().y());
         QTest::mouseClick(m_pane->viewport(), Qt::LeftButton, {}, valueCell);
         settle();
+        return true;
     }
-    // Types into the line edit an editor has just opened among parent's children, and ends
-    // the editing with Return.
-    static void typeIntoShownEditor(QWidget *parent, const QString &text)
+    // Types into the line edit an editor has just opened among parent's children, over what
+    // it held, and ends the editing with Return.
+    void typeIntoShownEditor(QWidget *parent, const QString &text)
     {
+        if (!ok())
+            return;
         const QList<QLineEdit *> edits = parent->findChildren<QLineEdit *>();
         auto shown = std::find_if(edits.cbegin(), edits.cend(),
                                   [](const QLineEdit *edit) { return edit->isVisible(); });
-        QVERIFY2(shown != edits.cend(), "no editor open");
+        if (shown == edits.cend())
+            return fail(QStringLiteral("no editor open to type %1").arg(text));
         (*shown)->selectAll();
+        QTest::keyClick(*shown, Qt::Key_Backspace);
         for (const QChar c : text) {
             // QTest spells out ASCII only; other letters come as the text of a key of their own.
             if (c.unicode() < 128)
@@ -205,6 +240,7 @@ private:
     QListWidget *m_list;
     QTableWidget *m_table;
     QTreeWidget *m_pane;
+    QStringList m_failures;
 };
 
 inline QDesignerTaskMenuExtension *taskMenuOf(QObject *widget)
@@ -212,21 +248,31 @@ inline QDesignerTaskMenuExtension *taskMenuOf(QObject *widget)
     return qt_extension<QDesignerTaskMenuExtension *>(designerCore()->extensionManager(), widget);
 }
 
-// Chooses the widget's context-menu entry, works the editor with act and presses OK or
-// Cancel. Tells whether an editor came up.
-inline bool edit(QWidget *widget, const std::function<void(ItemDialogDriver &)> &act,
-                 bool accept = true)
+// Triggers entry, works the editor it opens with act and presses OK or Cancel. Returns what
+// went wrong, empty when nothing did: no editor came up, or the driver's failures.
+inline QString editThrough(QAction *entry, const std::function<void(ItemDialogDriver &)> &act,
+                           bool accept = true)
+{
+    QStringList failures;
+    const auto work = [&act, &failures](QDialog *dialog) {
+        ItemDialogDriver driver(dialog);
+        if (driver.ok())
+            act(driver);
+        failures = driver.failures();
+    };
+    if (!answerModal<QDialog>([entry] { entry->trigger(); }, work, accept))
+        return QStringLiteral("no editor came up");
+    return failures.join(QStringLiteral("; "));
+}
+
+// The same through the widget's context-menu entry.
+inline QString edit(QWidget *widget, const std::function<void(ItemDialogDriver &)> &act,
+                    bool accept = true)
 {
     QDesignerTaskMenuExtension *menu = taskMenuOf(widget);
     if (!menu)
-        return false;
-    QAction *entry = menu->preferredEditAction();
-    const auto work = [act](QDialog *dialog) {
-        ItemDialogDriver driver(dialog);
-        if (driver.isValid())
-            act(driver);
-    };
-    return answerModal<QDialog>([entry] { entry->trigger(); }, work, accept);
+        return QStringLiteral("no task menu");
+    return editThrough(menu->preferredEditAction(), act, accept);
 }
 
 } // namespace CcTest
