@@ -54,65 +54,58 @@ QString firstText(Widget *widget)
     return widget->textList().value(0);
 }
 
-void checkCombo()
-{
-    checkCommand<ChangeComboBoxCommand>(new VoCc::ComboBox, ItemRecords(), oneEntry,
-                                        [](VoCc::ComboBox *w) { return w->itemText(0); });
-}
-void checkCheckCombo()
-{
-    checkCommand<ChangeCheckComboCommand>(
-            new VoCc::CheckableTextComboBox, ItemRecords(), oneEntry,
-            [](VoCc::CheckableTextComboBox *w) { return w->itemTextList().value(0); });
-}
-void checkOptionCombo()
-{
-    checkCommand<ChangeOptionComboCommand>(new VoCc::OptionComboBox, ItemRecords(), oneEntry,
-                                           firstText<VoCc::OptionComboBox>);
-}
-void checkOptionButtons()
-{
-    checkCommand<ChangeOptionButtonsCommand>(new VoCc::OptionButtons, ItemRecords(), oneEntry,
-                                             firstText<VoCc::OptionButtons>);
-}
-void checkOptionRadios()
-{
-    checkCommand<ChangeOptionRadiosCommand>(new VoCc::OptionRadios, ItemRecords(), oneEntry,
-                                            firstText<VoCc::OptionRadios>);
-}
-void checkPageGroup()
-{
-    auto *group = new VoCc::DrawbackBoxGroup;
-    auto *box = new VoCc::DrawbackBox(group);
-    box->setWidget(new QWidget);
-    checkCommand<ChangeDrawbackBoxCommand>(
-            group, PageGroupContents(), PageGroupContents {oneEntry, {box}},
-            [](VoCc::DrawbackBoxGroup *w) { return w->pageTitle(0); });
-}
-void checkMatrix()
-{
-    checkCommand<ChangeMatrixBtnsCommand>(new VoCc::MatrixPushButtons, MatrixContents(), oneCell(),
-                                          firstText<VoCc::AbstractMatrixOptions>);
-}
-void checkPopMatrix()
-{
-    checkCommand<ChangeMatrixPopBtnsCommand>(new VoCc::MatrixPopButtons, MatrixContents(),
-                                             oneCell(), firstText<VoCc::MatrixPopButtons>);
-}
-
+// One row per command: a new widget, the contents before and after, and how it shows them.
 const struct
 {
     const char *name;
     void (*check)();
 } commands[] = {
-        {"ChangeComboBoxCommand", checkCombo},
-        {"ChangeCheckComboCommand", checkCheckCombo},
-        {"ChangeOptionComboCommand", checkOptionCombo},
-        {"ChangeOptionButtonsCommand", checkOptionButtons},
-        {"ChangeOptionRadiosCommand", checkOptionRadios},
-        {"ChangeDrawbackBoxCommand", checkPageGroup},
-        {"ChangeMatrixBtnsCommand", checkMatrix},
-        {"ChangeMatrixPopBtnsCommand", checkPopMatrix},
+        {"ChangeComboBoxCommand",
+         [] {
+             checkCommand<ChangeComboBoxCommand>(new VoCc::ComboBox, ItemRecords(), oneEntry,
+                                                 [](VoCc::ComboBox *w) { return w->itemText(0); });
+         }},
+        {"ChangeCheckComboCommand",
+         [] {
+             checkCommand<ChangeCheckComboCommand>(
+                     new VoCc::CheckableTextComboBox, ItemRecords(), oneEntry,
+                     [](VoCc::CheckableTextComboBox *w) { return w->itemTextList().value(0); });
+         }},
+        {"ChangeOptionComboCommand",
+         [] {
+             checkCommand<ChangeOptionComboCommand>(new VoCc::OptionComboBox, ItemRecords(),
+                                                    oneEntry, firstText<VoCc::OptionComboBox>);
+         }},
+        {"ChangeOptionButtonsCommand",
+         [] {
+             checkCommand<ChangeOptionButtonsCommand>(new VoCc::OptionButtons, ItemRecords(),
+                                                      oneEntry, firstText<VoCc::OptionButtons>);
+         }},
+        {"ChangeOptionRadiosCommand",
+         [] {
+             checkCommand<ChangeOptionRadiosCommand>(new VoCc::OptionRadios, ItemRecords(),
+                                                     oneEntry, firstText<VoCc::OptionRadios>);
+         }},
+        {"ChangeDrawbackBoxCommand",
+         [] {
+             auto *group = new VoCc::DrawbackBoxGroup;
+             auto *box = new VoCc::DrawbackBox(group);
+             box->setWidget(new QWidget);
+             checkCommand<ChangeDrawbackBoxCommand>(
+                     group, PageGroupContents(), PageGroupContents {oneEntry, {box}},
+                     [](VoCc::DrawbackBoxGroup *w) { return w->pageTitle(0); });
+         }},
+        {"ChangeMatrixBtnsCommand",
+         [] {
+             checkCommand<ChangeMatrixBtnsCommand>(new VoCc::MatrixPushButtons, MatrixContents(),
+                                                   oneCell(),
+                                                   firstText<VoCc::AbstractMatrixOptions>);
+         }},
+        {"ChangeMatrixPopBtnsCommand",
+         [] {
+             checkCommand<ChangeMatrixPopBtnsCommand>(new VoCc::MatrixPopButtons, MatrixContents(),
+                                                      oneCell(), firstText<VoCc::MatrixPopButtons>);
+         }},
 };
 
 } // namespace

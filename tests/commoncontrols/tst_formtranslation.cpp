@@ -222,16 +222,6 @@ QStringList describe(const QSet<Message> &messages)
     return texts;
 }
 
-QStringList containing(const QStringList &texts, const QString &part)
-{
-    QStringList found;
-    for (const QString &text : texts) {
-        if (text.contains(part))
-            found.append(text);
-    }
-    return found;
-}
-
 // Records what it is asked to translate, and translates nothing.
 class RecordingTranslator : public QTranslator
 {
@@ -338,7 +328,7 @@ private slots:
         const QSet<QString> own = ownTexts(loaded.data());
         if (!enabled) {
             QCOMPARE(shown, plainTexts);
-            QCOMPARE(containing(shown, QStringLiteral("«")), QStringList());
+            QCOMPARE(shown.filter(QStringLiteral("«")), QStringList());
         }
         for (const Message &message : qAsConst(m_messages)) {
             if (message.context != context)
@@ -378,7 +368,7 @@ private slots:
             QCOMPARE(after, before);
             return;
         }
-        QCOMPARE(containing(after, QStringLiteral("«")), QStringList());
+        QCOMPARE(after.filter(QStringLiteral("«")), QStringList());
         for (const Message &message : qAsConst(m_messages)) {
             if (message.context == context)
                 QVERIFY2(after.contains(second(message.source)), qPrintable(message.source));

@@ -1,7 +1,7 @@
 // Editing a form as a form author does, in a real Designer core that loads the built module:
-// an item edit is one step of the form's undo history, the page group's editor makes new
-// pages for new rows whatever was deleted around them, and a click on a page header of a
-// page group on the form switches to that page.
+// the page group's editor makes new pages for new rows whatever was deleted around them, and a
+// click on a page header of a page group on the form switches to that page. That an item edit
+// is one step of the form's undo history the item editing tests show for every family.
 
 #include "designertestcore.h"
 #include "itemdialogdriver.h"
@@ -10,7 +10,6 @@
 #include "uixml.h"
 
 #include <nui/CommonControls/CcDrawbackBoxGroup.hpp>
-#include <nui/CommonControls/CcMatrixButtons.hpp>
 
 #include <QDesignerContainerExtension>
 #include <QDesignerFormEditorInterface>
@@ -24,8 +23,6 @@ using namespace CcTest;
 using Driver = ItemDialogDriver;
 
 namespace {
-
-QString textItem(const char *text) { return itemXml(propertyXml("text", text)); }
 
 // Pages A, B and C, each holding a label of its own.
 QString pageGroupForm()
@@ -164,56 +161,6 @@ private slots:
     {
         usePluginModulesOnly({QStringLiteral(CC_PLUGIN_MODULE)});
         QVERIFY(designerCore());
-    }
-
-    void matrixEditIsOneStep_data()
-    {
-        QTest::addColumn<QString>("className");
-        for (const char *name :
-             {"VoCc::MatrixPushButtons", "VoCc::MatrixRadioButtons", "VoCc::MatrixCheckBoxes"})
-            QTest::newRow(name) << QString::fromLatin1(name);
-    }
-
-    // Cells and counts change in one step of the history, labelled like the change; one Undo
-    // gives back the form to the byte, one Redo the edited form.
-    void matrixEditIsOneStep()
-    {
-        QFETCH(QString, className);
-        const QByteArray cls = className.toLatin1();
-        const QString entries = propertyXml("row", "2", "number")
-                + propertyXml("column", "3", "number") + textItem("a") + textItem("b")
-                + textItem("c") + textItem("d") + textItem("e") + textItem("f");
-        QDesignerFormWindowInterface *form =
-                createFormWindow(formXml(widgetXml(cls.constData(), "matrix", entries)));
-        const auto closeForm = qScopeGuard([form] { closeFormWindow(form); });
-        auto *matrix = formChild<VoCc::AbstractMatrixOptions>(form, "matrix");
-        QVERIFY(matrix);
-        const QString original = form->contents();
-
-        QCOMPARE(edit(matrix,
-                      [](Driver &dialog) {
-                          dialog.stepTo("rowCounts", 3);
-                          dialog.stepTo("colCounts", 2);
-                          dialog.selectCell(0, 0);
-                          dialog.renameCurrent(QStringLiteral("z"));
-                      }),
-                 QString());
-        QUndoStack *history = form->commandHistory();
-        QCOMPARE(history->count(), 1);
-        QCOMPARE(history->text(0), QStringLiteral("Change MatrixButtons Contents"));
-        QCOMPARE(QStringLiteral("%1x%2").arg(matrix->row()).arg(matrix->column()),
-                 QStringLiteral("3x2"));
-        QCOMPARE(matrix->textList().value(0), QStringLiteral("z"));
-        const QString edited = form->contents();
-
-        history->undo();
-        QCOMPARE(history->index(), 0);
-        QCOMPARE(form->contents(), original);
-        QCOMPARE(QStringLiteral("%1x%2").arg(matrix->row()).arg(matrix->column()),
-                 QStringLiteral("2x3"));
-        history->redo();
-        QCOMPARE(history->index(), 1);
-        QCOMPARE(form->contents(), edited);
     }
 
     void newRowsMakeNewPages_data()

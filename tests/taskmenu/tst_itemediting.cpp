@@ -566,14 +566,11 @@ private slots:
                      qPrintable(value));
         for (const QString &value : family.notSaved)
             QVERIFY2(!after.contains(value), qPrintable(value));
-        // Loaded again it is saved the same, and loaded at run time it shows the same entries.
-        QCOMPARE(reloaded(after), after);
-        QCOMPARE(shownAtRunTime(family, after), family.edited);
-
-        // Undo gives back the form as it was, Redo the edited one; a page group gets back the
-        // same page objects, in their order.
+        // Loaded again it is saved the same, loaded at run time it shows the same entries; Undo
+        // gives back the form as it was, Redo the edited one, and a page group gets back the same
+        // page objects, in their order.
+        QCOMPARE(brokenPromise(form, family, original, after), QString());
         history->setIndex(0);
-        QCOMPARE(comparable(family, form->contents()), comparable(family, original));
         QCOMPARE(family.shown(widget), family.opened);
         QCOMPARE(pagesOfWidget(widget), originalPages);
         history->setIndex(history->count());
@@ -698,10 +695,7 @@ private slots:
                       }),
                  QString());
         const QString edited = form->contents();
-        form->commandHistory()->setIndex(0);
-        QCOMPARE(form->contents(), original);
-        form->commandHistory()->setIndex(form->commandHistory()->count());
-        QCOMPARE(form->contents(), edited);
+        QCOMPARE(brokenPromise(form, family, original, edited), QString());
         QVERIFY2(edited.contains(QLatin1String("tipb")), qPrintable(edited));
         QCOMPARE(edited.count(QLatin1String("<item")), 2);
     }
@@ -749,15 +743,10 @@ private slots:
             QVERIFY2(marked.contains(QStringLiteral("notr=\"true\">%1</string>").arg(tip)),
                      qPrintable(marked));
 
-        QUndoStack *history = form->commandHistory();
-        history->setIndex(0);
-        QCOMPARE(comparable(family, form->contents()), comparable(family, original));
-        history->setIndex(history->count());
-        QCOMPARE(form->contents(), marked);
+        QCOMPARE(brokenPromise(form, family, original, marked), QString());
 
         QDesignerFormWindowInterface *reopened = createFormWindow(marked);
         const auto closeReopened = qScopeGuard([reopened] { closeFormWindow(reopened); });
-        QCOMPARE(reopened->contents(), marked);
         const auto shown = [&](Driver &dialog) {
             pick(dialog);
             QCOMPARE(dialog.propertyValue(QStringLiteral("text/disambiguation")),
