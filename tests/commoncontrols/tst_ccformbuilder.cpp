@@ -1,6 +1,7 @@
 // VoCc::FormBuilder: the entries of the list-like widgets through .ui text and back; the
 // example form as the builder loads it and as uic compiles it.
 #include "ui_allwidgets.h"
+#include "pipeprobe.h"
 #include "uixml.h"
 #include "warninglog.h"
 
@@ -376,6 +377,42 @@ private slots:
         // Still editable: a size the editors offer is taken as it is.
         QVERIFY(grid->setProperty("row", 4));
         QVERIFY(button(4 * 3 - 1) && !button(4 * 3));
+    }
+
+    void iconPathsThatAreNoFiles_data()
+    {
+        QTest::addColumn<QString>("className");
+        for (const char *className : {"VoCc::OptionButtons", "VoCc::OptionRadios",
+                                      "VoCc::OptionComboBox", "VoCc::OptionCheckBox",
+                                      "VoCc::MatrixPushButtons", "VoCc::MatrixPopButtons"})
+            QTest::newRow(className) << QString::fromLatin1(className);
+    }
+
+    void iconPathsThatAreNoFiles()
+    {
+        // An icon path naming a FIFO, a device or a folder loads as no icon, quietly, and the
+        // FIFO is never opened: a reader would wait for a writer that never comes.
+        QFETCH(QString, className);
+        const PipeProbe pipe;
+        QVERIFY(!pipe.path.isEmpty());
+        const QStringList paths = {pipe.path, QStringLiteral("/dev/zero"),
+                                   QStringLiteral("/dev/null"), pipe.dir.path()};
+        QString items;
+        for (const QString &path : paths)
+            items += itemXml(propertyXml("text", "A") + propertyXml("icon", qPrintable(path)));
+        const QString grid = className.startsWith(QLatin1String("VoCc::Matrix"))
+                ? propertyXml("row", "2", "number") + propertyXml("column", "2", "number")
+                : QString();
+        const QString body = widgetXml(qPrintable(className), "icons", grid + items);
+        const WarningLog log;
+        QScopedPointer<QWidget> form(loadForm(formXml(body)));
+        QVERIFY(form);
+        QCoreApplication::processEvents(); // a grid shows its cells from the event loop
+        QVERIFY(!pipe.wasOpened());
+        QCOMPARE(log.warnings, QStringList());
+        const QString saved = saveForm(form.data());
+        for (const QString &path : paths)
+            QVERIFY2(saved.contains(QStringLiteral(">%1<").arg(path)), qPrintable(saved));
     }
 
     void showsLongTextsCut()
