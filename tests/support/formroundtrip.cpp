@@ -71,7 +71,7 @@ RoundTrip throughFormBuilder(const QByteArray &ui)
     buffer.setData(ui);
     buffer.open(QIODevice::ReadOnly);
     const QScopedPointer<QWidget> form(builder.load(&buffer));
-    trip.loaded = form;
+    trip.loaded = !form.isNull();
     QCoreApplication::processEvents();
     if (form) {
         QBuffer out;
