@@ -682,6 +682,77 @@ private slots:
         QVERIFY(losses.first().value.startsWith(QLatin1String("t1 ")));
     }
 
+    void comparison_data()
+    {
+        QTest::addColumn<QString>("before");
+        QTest::addColumn<QString>("after");
+        QTest::addColumn<QString>("warning");
+        QTest::addColumn<QStringList>("lost"); // property=value of each unexplained loss
+        const auto form = [](const char *className, const QString &inner) {
+            return formXml(widgetXml(className, "w", inner));
+        };
+        const QString a = itemXml(propertyXml("text", "A"));
+        const QString b = itemXml(propertyXml("text", "B"));
+        QTest::newRow("kept") << form("VoCc::OptionButtons", a + b)
+                              << form("VoCc::OptionButtons", a + b) << QString() << QStringList();
+        QTest::newRow("dropped") << form("VoCc::OptionButtons", a + b)
+                                 << form("VoCc::OptionButtons", b) << QString()
+                                 << QStringList {"text=A"};
+        QTest::newRow("dropped and named")
+                << form("VoCc::OptionButtons", a + b) << form("VoCc::OptionButtons", b)
+                << QStringLiteral("VoCc::OptionButtons \"w\": property \"text\" value \"A\"")
+                << QStringList();
+        QTest::newRow("named for another widget")
+                << form("VoCc::OptionButtons", a + b) << form("VoCc::OptionButtons", b)
+                << QStringLiteral("VoCc::OptionButtons \"v\": property \"text\" value \"A\"")
+                << QStringList {"text=A"};
+        QTest::newRow("an entry held twice, kept once")
+                << form("VoCc::ComboBox", a + a) << form("VoCc::ComboBox", a) << QString()
+                << QStringList {"text=A"};
+        QTest::newRow("a property an item holds twice alike")
+                << form("VoCc::ComboBox",
+                        itemXml(propertyXml("text", "A") + propertyXml("text", "A")))
+                << form("VoCc::ComboBox", a) << QString() << QStringList();
+        QTest::newRow("a number as Qt's reader reads it")
+                << form("VoCc::MatrixPushButtons", propertyXml("row", "abc", "number"))
+                << form("VoCc::MatrixPushButtons", propertyXml("row", "0", "number")) << QString()
+                << QStringList();
+        QTest::newRow("pop-button texts in items or the list")
+                << form("VoCc::MatrixPopButtons", a)
+                << form("VoCc::MatrixPopButtons",
+                        QStringLiteral("<property name=\"textList\"><stringlist><string>A"
+                                       "</string></stringlist></property>"))
+                << QString() << QStringList();
+        QTest::newRow("a mark dropped")
+                << form("VoCc::OptionButtons",
+                        itemXml(QStringLiteral("<property name=\"text\"><string comment=\"c\">A"
+                                               "</string></property>")))
+                << form("VoCc::OptionButtons", a) << QString() << QStringList {"text@comment=c"};
+        QTest::newRow("a page title")
+                << form("VoCc::DrawbackBoxGroup",
+                        widgetXml("QWidget", "p", propertyXml("windowTitle", "T")))
+                << form("VoCc::DrawbackBoxGroup", widgetXml("QWidget", "p")) << QString()
+                << QStringList {"windowTitle=T"};
+        QTest::newRow("Qt's widgets are not counted")
+                << form("QComboBox", a) << form("QComboBox", QString()) << QString()
+                << QStringList();
+    }
+
+    void comparison()
+    {
+        // What the comparison counts as lost: the cases the mutated forms rely on.
+        QFETCH(QString, before);
+        QFETCH(QString, after);
+        QFETCH(QString, warning);
+        QFETCH(QStringList, lost);
+        QStringList found;
+        const QStringList warnings = warning.isEmpty() ? QStringList() : QStringList {warning};
+        for (const FormValues::Value &value :
+             FormValues::unexplainedLosses(before.toUtf8(), after.toUtf8(), warnings))
+            found << value.property + QLatin1Char('=') + value.value;
+        QCOMPARE(found, lost);
+    }
+
     void mutatedForms()
     {
         const int forms = qEnvironmentVariable("CC_MUTATED_FORMS", "300").toInt();

@@ -1,6 +1,7 @@
 #include "formvalues.h"
 
 #include <QHash>
+#include <QSet>
 #include <QXmlStreamReader>
 
 namespace FormValues {
@@ -85,8 +86,18 @@ Collected collect(const QByteArray &ui)
     QHash<int, int> pagesOf; // per group owner
     // Owner indices of <widget> frames that are not counted still need a slot, so that a
     // page can find its group: every widget gets an owner entry.
+    // An item holding a property twice with the same value holds that value once.
+    QSet<QString> itemValues;
     const auto add = [&](const Frame &frame, const QString &property, const QString &value,
                          int line) {
+        const int item = frame.path.lastIndexOf(QLatin1String("/item["));
+        if (item >= 0) {
+            const QString key = frame.path.left(frame.path.indexOf(QLatin1Char(']'), item))
+                    + QChar(0x1f) + property + QChar(0x1f) + value;
+            if (itemValues.contains(key))
+                return;
+            itemValues.insert(key);
+        }
         const Owner &owner = result.owners.at(frame.owner);
         Value v;
         v.line = line;

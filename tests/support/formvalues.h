@@ -26,7 +26,7 @@
 // in the widget's properties or in any item (a pop-button matrix's "textList" counts as its
 // items' "text"). Entries and the strings of string lists are counted (one held twice must
 // be there twice); attributes only need to be there once (a string list shares one set among
-// its strings), and so does the value of a widget's own property given twice alike.
+// its strings), and so does the value of a property a widget or an item holds twice alike.
 
 #include <QByteArray>
 #include <QString>
