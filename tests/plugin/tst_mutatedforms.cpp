@@ -713,6 +713,12 @@ private slots:
                 << form("VoCc::ComboBox",
                         itemXml(propertyXml("text", "A") + propertyXml("text", "A")))
                 << form("VoCc::ComboBox", a) << QString() << QStringList();
+        const QString list = QStringLiteral(
+                "<property "
+                "name=\"textList\"><stringlist><string>A</string></stringlist></property>");
+        QTest::newRow("a list a widget holds twice alike")
+                << form("VoCc::MatrixPopButtons", list + list)
+                << form("VoCc::MatrixPopButtons", list) << QString() << QStringList();
         QTest::newRow("a number as Qt's reader reads it")
                 << form("VoCc::MatrixPushButtons", propertyXml("row", "abc", "number"))
                 << form("VoCc::MatrixPushButtons", propertyXml("row", "0", "number")) << QString()

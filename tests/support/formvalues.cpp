@@ -34,6 +34,7 @@ struct Frame
     QString text;
     int line = 0;
     int children = 0; // child elements seen, for the path's indices
+    int firstValue = -1; // of a <property>: where its values start
     QHash<QString, int> childTags;
 };
 
@@ -88,6 +89,7 @@ Collected collect(const QByteArray &ui)
     // page can find its group: every widget gets an owner entry.
     // An item holding a property twice with the same value holds that value once.
     QSet<QString> itemValues;
+    QSet<QString> properties; // each property's place, name and values, as seen so far
     const auto add = [&](const Frame &frame, const QString &property, const QString &value,
                          int line) {
         const int item = frame.path.lastIndexOf(QLatin1String("/item["));
@@ -165,6 +167,7 @@ Collected collect(const QByteArray &ui)
                 frame.property = lookupName(owner, name);
                 frame.counted = !excludedProperty(name)
                         && (!owner.page || name == QLatin1String("windowTitle"));
+                frame.firstValue = result.values.size();
             } else if (frame.owner >= 0 && tag == itemTag) {
                 frame.counted = false; // its properties count
                 frame.property.clear();
@@ -202,6 +205,20 @@ Collected collect(const QByteArray &ui)
                         ? QString::number(frame.text.toInt())
                         : frame.text;
                 add(frame, frame.property, value, frame.line);
+            }
+            // A property given again exactly as before, in the same widget or item, holds
+            // nothing new: its values are not counted twice.
+            if (frame.firstValue >= 0) {
+                QString key = stack.isEmpty() ? QString() : stack.last().path;
+                key += QChar(0x1e) + frame.property;
+                for (int i = frame.firstValue; i < result.values.size(); ++i)
+                    key += QChar(0x1e) + result.values.at(i).property + QChar(0x1f)
+                            + result.values.at(i).value;
+                if (properties.contains(key)) {
+                    result.values.resize(frame.firstValue);
+                    result.ownerOf.resize(frame.firstValue);
+                }
+                properties.insert(key);
             }
         }
     }
