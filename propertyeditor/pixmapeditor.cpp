@@ -101,9 +101,11 @@ void PixmapEditor::updateDisplay()
     QString text;
     if (!m_path.isEmpty()) {
         text = QFileInfo(m_path).fileName();
-        const QPixmap pixmap = m_pixmapCache
-                ? m_pixmapCache->pixmap(PropertySheetPixmapValue(m_path))
-                : QPixmap(m_path);
+        // A path naming a FIFO or a device is not opened: reading it could block or never end.
+        const bool file = QFileInfo(m_path).isFile();
+        const QPixmap pixmap = !file    ? QPixmap()
+                : m_pixmapCache ? m_pixmapCache->pixmap(PropertySheetPixmapValue(m_path))
+                                : QPixmap(m_path);
         if (!pixmap.isNull())
             preview = pixmap.scaled(previewSize, previewSize, Qt::KeepAspectRatio,
                                     Qt::SmoothTransformation);

@@ -15,6 +15,16 @@ void ComboBox::setActionList(const QStringList &actions) { m_actionList = action
 
 QString ComboBox::actionAt(int index) const { return EntryLists::at(m_actionList, index); }
 
+QVariantList ComboBox::stringAttributes(const QString &list) const
+{
+    return EntryLists::stringAttributes(m_stringAttributes, list);
+}
+
+void ComboBox::setStringAttributes(const QString &list, const QVariantList &attributes)
+{
+    EntryLists::setStringAttributes(m_stringAttributes, list, attributes);
+}
+
 void ComboBox::onActivated(int index)
 {
     const QString action = actionAt(index);

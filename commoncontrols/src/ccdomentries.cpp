@@ -2,6 +2,9 @@
 
 #include <QtDesigner/private/ui4_p.h>
 
+#include <QXmlStreamReader>
+#include <QXmlStreamWriter>
+
 namespace VoCc {
 namespace DomEntries {
 
@@ -84,20 +87,28 @@ void writeItems(DomWidget *domWidget, const Lists &lists, const QVector<Field> &
     domWidget->setElementItem(items);
 }
 
-Lists readItems(const DomWidget *domWidget, const QVector<Field> &fields)
+Lists readItems(const DomWidget *domWidget, const QVector<Field> &fields, QStringList *dropped)
 {
     Lists lists;
     bool marked[FieldCount] = {};
     const QVector<DomItem *> items = domWidget->elementItem();
-    for (const DomItem *item : items) {
+    for (int i = 0; i < items.size(); ++i) {
+        const DomItem *item = items.at(i);
+        const QString where = QStringLiteral("item %1 ").arg(i + 1);
         QString values[FieldCount];
         QVariantMap attributes[FieldCount];
+        const DomProperty *taken[FieldCount] = {};
         const QList<DomProperty *> properties = item->elementProperty();
         for (const DomProperty *property : properties) {
             for (Field field : fields) {
                 if (property->attributeName() != fieldName(field))
                     continue;
+                // An item holding a property twice has the last one, as a widget does.
+                if (taken[field] && dropped)
+                    *dropped += droppedValues(where, taken[field], propertyValues(property));
+                taken[field] = property;
                 values[field] = propertyText(property);
+                attributes[field].clear();
                 if (carriesAttributes(field) && property->kind() == DomProperty::String)
                     attributes[field] = attributesOf(property->elementString());
             }
@@ -106,6 +117,22 @@ Lists readItems(const DomWidget *domWidget, const QVector<Field> &fields)
             lists[field].append(values[field]);
             lists.attributes[field].append(attributes[field]);
             marked[field] = marked[field] || !attributes[field].isEmpty();
+            if (!taken[field] || !dropped)
+                continue;
+            // What of the value is kept: its text, and a string's translation marks (notr
+            // on identifiers is theirs anyway).
+            QVector<QPair<QString, QString>> kept = {{QString(), values[field]}};
+            for (auto a = attributes[field].cbegin(); a != attributes[field].cend(); ++a)
+                kept.append({a.key(), a.value().toString()});
+            const QVector<QPair<QString, QString>> all = propertyValues(taken[field]);
+            for (const auto &value : all) {
+                if (value.first == QLatin1String("notr") && !carriesAttributes(field))
+                    kept.append(value);
+                if (value.first == QLatin1String("notr") && value.second == QLatin1String("true")
+                    && attributes[field].value(QStringLiteral("notr")).toBool())
+                    kept.append(value);
+            }
+            *dropped += droppedValues(where, taken[field], kept);
         }
     }
     // Lists of plain strings carry no attributes at all.
@@ -114,6 +141,80 @@ Lists readItems(const DomWidget *domWidget, const QVector<Field> &fields)
             lists.attributes[field].clear();
     }
     return lists;
+}
+
+QVector<QPair<QString, QString>> propertyValues(const DomProperty *property)
+{
+    QVector<QPair<QString, QString>> values;
+    if (!property)
+        return values;
+    // The property as the form writer spells it, read back element by element: every kind of
+    // value the format has is covered without a case for each.
+    QString xml;
+    {
+        QXmlStreamWriter writer(&xml);
+        property->write(writer);
+    }
+    QXmlStreamReader reader(xml);
+    QString text;
+    bool leaf = false;
+    int depth = 0;
+    while (!reader.atEnd()) {
+        switch (reader.readNext()) {
+        case QXmlStreamReader::StartElement: {
+            ++depth;
+            text.clear();
+            leaf = true;
+            const QXmlStreamAttributes attributes = reader.attributes();
+            for (const QXmlStreamAttribute &attribute : attributes) {
+                const QString name = attribute.name().toString();
+                const QString value = attribute.value().toString();
+                if (depth == 1
+                    && (name == QLatin1String("name") || name == QLatin1String("stdset")))
+                    continue;
+                if ((name == QLatin1String("notr") && value == QLatin1String("false"))
+                    || value.isEmpty())
+                    continue;
+                values.append({name, value});
+            }
+            break;
+        }
+        case QXmlStreamReader::Characters:
+            text += reader.text();
+            break;
+        case QXmlStreamReader::EndElement:
+            --depth;
+            if (leaf && !text.trimmed().isEmpty())
+                values.append({QString(), text});
+            leaf = false;
+            text.clear();
+            break;
+        default:
+            break;
+        }
+    }
+    return values;
+}
+
+QString droppedValue(const QString &where, const QString &property,
+                     const QPair<QString, QString> &value)
+{
+    if (value.first.isEmpty())
+        return QStringLiteral("%1property \"%2\" value \"%3\"").arg(where, property, value.second);
+    return QStringLiteral("%1property \"%2\" attribute %3=\"%4\"")
+            .arg(where, property, value.first, value.second);
+}
+
+QStringList droppedValues(const QString &where, const DomProperty *property,
+                          const QVector<QPair<QString, QString>> &kept)
+{
+    QStringList dropped;
+    const QVector<QPair<QString, QString>> values = propertyValues(property);
+    for (const auto &value : values) {
+        if (!kept.contains(value))
+            dropped.append(droppedValue(where, property->attributeName(), value));
+    }
+    return dropped;
 }
 
 QString propertyText(const DomProperty *property)
@@ -238,9 +339,9 @@ void setAttributes(DomStringList *list, const QVariantMap &attributes)
 const DomProperty *findProperty(const DomWidget *domWidget, const QString &name)
 {
     const QList<DomProperty *> properties = domWidget->elementProperty();
-    for (const DomProperty *property : properties) {
-        if (property->attributeName() == name)
-            return property;
+    for (int i = properties.size() - 1; i >= 0; --i) {
+        if (properties.at(i)->attributeName() == name)
+            return properties.at(i);
     }
     return nullptr;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPair>
 #include <QString>
 #include <QStringList>
 #include <QVariantList>
@@ -42,8 +43,27 @@ void writeItems(DomWidget *domWidget, const Lists &lists, const QVector<Field> &
 
 // Reads the given fields from the element's items; every list gets one entry per item
 // (an empty one where the item lacks the property), texts and tool tips their attributes.
-// Unknown properties are ignored.
-Lists readItems(const DomWidget *domWidget, const QVector<Field> &fields);
+// Unknown properties are ignored. What of the given fields is not kept is added to dropped
+// (see droppedValue()), when given: a property an item holds twice (the last one counts, as
+// for a widget's properties), the parts of a value of another type than a string that are
+// not its text (the strings of a list, an icon's theme...), and the translation marks of
+// data, icon paths and actions, which are identifiers.
+Lists readItems(const DomWidget *domWidget, const QVector<Field> &fields,
+                QStringList *dropped = nullptr);
+
+// The values a property holds, as the form spells them: the text of each element and each
+// attribute (first: the attribute's name, or empty for a text), the property's name and
+// notr="false" (the default) aside.
+QVector<QPair<QString, QString>> propertyValues(const DomProperty *property);
+
+// One value a widget does not keep, for a warning: where (e.g. "item 2 "), the property, and
+// the value or attribute.
+QString droppedValue(const QString &where, const QString &property,
+                     const QPair<QString, QString> &value);
+// Every value of a property, as droppedValue() spells them; those equal to one of kept
+// (first: attribute name or empty, second: value) are left out.
+QStringList droppedValues(const QString &where, const DomProperty *property,
+                          const QVector<QPair<QString, QString>> &kept = {});
 
 // The text of a property of any string-like kind (string, number, pixmap, icon set...), or
 // an empty text.
@@ -66,7 +86,8 @@ QVariantMap attributesOf(const DomStringList *list);
 void setAttributes(DomString *string, const QVariantMap &attributes);
 void setAttributes(DomStringList *list, const QVariantMap &attributes);
 
-// The property of that name of an element, or null.
+// The property of that name of an element, or null; of several, the last (a widget takes its
+// properties in order, so the last one given is the one it has).
 const DomProperty *findProperty(const DomWidget *domWidget, const QString &name);
 
 // Replaces the "action" property of item i of the element with actions[i] (or removes it when

@@ -12,6 +12,11 @@ QIcon iconFromPath(const QString &path)
 {
     if (path.isEmpty())
         return QIcon();
+    // Only a file (a resource too) is read: a path naming a FIFO would block the reader until
+    // someone writes to it, a device such as /dev/zero would be read without end, and a
+    // directory is no picture. QFileInfo only looks at the path, it opens nothing.
+    if (!QFileInfo(path).isFile())
+        return QIcon();
     // QPixmap(path) stays silent for a missing file, and checking first keeps null icons
     // from pretending to be there.
     const QPixmap pixmap(path);

@@ -15,7 +15,8 @@ inline QString at(const QStringList &list, int index)
     return index >= 0 && index < list.size() ? list.at(index) : QString();
 }
 
-// The icon of a pixmap path; an empty or unreadable path gives a null icon without a warning.
+// The icon of a pixmap path; an empty or unreadable path, or one that names no regular file
+// (a directory, a device, a FIFO: never opened), gives a null icon without a warning.
 QIcon iconFromPath(const QString &path);
 
 // The most characters of an entry's text that a widget shows. Qt measures and shapes a text

@@ -3,6 +3,7 @@
 #include "ccdomentries.h"
 #include "ccentrylists.h"
 #include "ccformtranslator.h"
+#include "ccgridcells.h"
 #include "ccwidgetclasses.h"
 
 #include "qtcompat.h"
@@ -16,6 +17,8 @@
 #include <QTableView>
 #include <QTreeView>
 #include <QXmlStreamReader>
+
+#include <algorithm>
 
 namespace VoCc {
 
@@ -139,24 +142,54 @@ bool sharedAttributes(const QStringList &texts, const QVariantList &attributes, 
     return true;
 }
 
-DomWidget *findChildElement(DomWidget *domWidget, const QString &objectName)
+// The object name a widget element gives: Designer writes it as the name attribute, the
+// run-time writer as an "objectName" property.
+QString elementName(const DomWidget *domWidget)
+{
+    if (domWidget->hasAttributeName())
+        return domWidget->attributeName();
+    return propertyText(findProperty(domWidget, QStringLiteral("objectName")));
+}
+
+DomWidget *findChildElement(const DomWidget *domWidget, const QString &objectName)
 {
     const QVector<DomWidget *> children = domWidget->elementWidget();
     for (DomWidget *child : children) {
-        if (child->attributeName() == objectName)
+        if (elementName(child) == objectName)
             return child;
     }
     return nullptr;
 }
+
+// The element of each page of the group. The pages' elements are in the order of the pages
+// when there is one for each: a name alone may be held by several pages, or by none, and
+// Designer gives such pages new names as it loads them. Otherwise pages are found by name.
+QVector<DomWidget *> pageElements(const DomWidget *domWidget, const DrawbackBoxGroup *group)
+{
+    const QVector<DomWidget *> elements = domWidget->elementWidget();
+    if (elements.size() == group->count())
+        return elements;
+    QVector<DomWidget *> pages;
+    for (int i = 0; i < group->count(); ++i) {
+        QWidget *page = group->widget(i);
+        pages.append(page ? findChildElement(domWidget, page->objectName()) : nullptr);
+    }
+    return pages;
+}
+
+// The translation marks of a page title as loaded, kept on the page's box (which moves with
+// the page) for the run-time writer, which saves window titles without marks. Designer keeps
+// them in the page's own property and needs none of this.
+const char titleMarksProperty[] = "voccTitleMarks";
 
 void savePageGroup(DomWidget *domWidget, DrawbackBoxGroup *group)
 {
     setNumberProperty(domWidget, currentIndexProperty, group->currentIndex());
     // A page's title is its window title; it goes into the page's own element whether or not
     // the writer of that element saved it.
+    const QVector<DomWidget *> elements = pageElements(domWidget, group);
     for (int i = 0; i < group->count(); ++i) {
-        QWidget *page = group->widget(i);
-        DomWidget *pageElement = page ? findChildElement(domWidget, page->objectName()) : nullptr;
+        DomWidget *pageElement = elements.at(i);
         const QString title = group->pageTitle(i);
         if (!pageElement || title.isEmpty())
             continue;
@@ -167,10 +200,47 @@ void savePageGroup(DomWidget *domWidget, DrawbackBoxGroup *group)
     }
 }
 
-void loadPageGroup(const DomWidget *domWidget, DrawbackBoxGroup *group)
+// The marks a title had when it was loaded go back on it when the run-time writer saved it
+// without any.
+void restoreTitleMarks(DomWidget *domWidget, DrawbackBoxGroup *group)
 {
+    const QVector<DomWidget *> elements = pageElements(domWidget, group);
+    for (int i = 0; i < group->count(); ++i) {
+        const QVariantMap marks = group->box(i)->property(titleMarksProperty).toMap();
+        const DomProperty *saved =
+                elements.at(i) ? findProperty(elements.at(i), windowTitleProperty) : nullptr;
+        if (marks.isEmpty() || !saved || saved->kind() != DomProperty::String
+            || !attributesOf(saved->elementString()).isEmpty())
+            continue;
+        setAttributes(const_cast<DomProperty *>(saved)->elementString(), marks);
+    }
+}
+
+void loadPageGroup(const DomWidget *domWidget, DrawbackBoxGroup *group, QStringList &dropped)
+{
+    const QVector<DomWidget *> elements = pageElements(domWidget, group);
     for (int i = 0; i < group->count(); ++i) {
         QWidget *page = group->widget(i);
+        const DomProperty *title =
+                elements.at(i) ? findProperty(elements.at(i), windowTitleProperty) : nullptr;
+        if (title && title->kind() == DomProperty::String)
+            group->box(i)->setProperty(titleMarksProperty, attributesOf(title->elementString()));
+        // A page takes the last of several titles.
+        const QList<DomProperty *> properties =
+                elements.at(i) ? elements.at(i)->elementProperty() : QList<DomProperty *>();
+        for (const DomProperty *property : properties) {
+            if (property != title && property->attributeName() == windowTitleProperty)
+                dropped += droppedValues(QStringLiteral("page %1 ").arg(i + 1), property,
+                                         propertyValues(title));
+        }
+        // A title of another type than a string is no window title to the loaders: its text
+        // is, as it is for the entries of the other widgets, and the rest is named.
+        if (page && title && title->kind() != DomProperty::String) {
+            if (page->windowTitle().isEmpty())
+                page->setWindowTitle(propertyText(title));
+            dropped += droppedValues(QStringLiteral("page %1 ").arg(i + 1), title,
+                                     {{QString(), page->windowTitle()}});
+        }
         if (page && !page->windowTitle().isEmpty())
             group->box(i)->setTitle(page->windowTitle());
     }
@@ -179,13 +249,6 @@ void loadPageGroup(const DomWidget *domWidget, DrawbackBoxGroup *group)
         if (current->kind() == DomProperty::Number)
             group->setCurrentIndex(current->elementNumber());
     }
-}
-
-const DomStringList *stringListProperty(const DomWidget *domWidget, const QString &name)
-{
-    const DomProperty *property = findProperty(domWidget, name);
-    return property && property->kind() == DomProperty::StringList ? property->elementStringList()
-                                                                     : nullptr;
 }
 
 // How deep elements may nest in a form this builder loads. Qt's .ui reader and form builder
@@ -328,37 +391,119 @@ const QStringList *keptItemProperties(const QWidget *widget)
     return nullptr;
 }
 
+// Every value of an item's properties and of the items nested in it, for a warning.
+void addItemValues(const DomItem *item, const QString &where, QStringList &dropped)
+{
+    const QList<DomProperty *> properties = item->elementProperty();
+    for (const DomProperty *property : properties)
+        dropped += droppedValues(where, property);
+    const QVector<DomItem *> nested = item->elementItem();
+    for (int i = 0; i < nested.size(); ++i)
+        addItemValues(nested.at(i), where + QStringLiteral("nested item %1 ").arg(i + 1), dropped);
+}
+
 // A form may hold item data no one keeps (items on a widget without entries, an item
-// property the widget has no list for): it would be gone after the next save, so it is named
-// once per widget.
-void warnOfDroppedItems(const DomWidget *domWidget, const QWidget *widget)
+// property the widget has no list for, items nested in items): it would be gone after the
+// next save, so it is named with the widget's other dropped values.
+void dropUnkeptItems(const DomWidget *domWidget, const QWidget *widget, QStringList &dropped)
 {
     const QVector<DomItem *> items = domWidget->elementItem();
-    if (items.isEmpty())
-        return;
     const QStringList *kept = keptItemProperties(widget);
-    if (!kept) {
-        qWarning("%s \"%s\": its %d item(s) are not kept; this widget has no entries",
-                 widget->metaObject()->className(), qPrintable(widget->objectName()),
-                 int(items.size()));
+    if (kept && kept->contains(QStringLiteral("*")))
         return;
-    }
-    if (kept->contains(QStringLiteral("*")))
-        return;
-    QStringList dropped;
-    for (const DomItem *item : items) {
-        const QList<DomProperty *> properties = item->elementProperty();
-        for (const DomProperty *property : properties) {
-            if (!kept->contains(property->attributeName())
-                && !dropped.contains(property->attributeName()))
-                dropped.append(property->attributeName());
+    for (int i = 0; i < items.size(); ++i) {
+        const QString where = QStringLiteral("item %1 ").arg(i + 1);
+        if (!kept) {
+            addItemValues(items.at(i), where, dropped);
+            continue;
         }
+        const QList<DomProperty *> properties = items.at(i)->elementProperty();
+        for (const DomProperty *property : properties) {
+            if (!kept->contains(property->attributeName()))
+                dropped += droppedValues(where, property);
+        }
+        const QVector<DomItem *> nested = items.at(i)->elementItem();
+        for (int n = 0; n < nested.size(); ++n)
+            addItemValues(nested.at(n), where + QStringLiteral("nested item %1 ").arg(n + 1),
+                          dropped);
     }
-    if (!dropped.isEmpty())
-        qWarning("%s \"%s\": item properties %s are not kept; its entries have %s",
-                 widget->metaObject()->className(), qPrintable(widget->objectName()),
-                 qPrintable(dropped.join(QStringLiteral(", "))),
-                 qPrintable(kept->join(QStringLiteral(", "))));
+}
+
+// A property a widget's element holds more than once: the widget takes them in order, so the
+// last one is what it has, and the values only the earlier ones hold are gone.
+void dropRepeatedProperties(const DomWidget *domWidget, QStringList &dropped)
+{
+    const QList<DomProperty *> properties = domWidget->elementProperty();
+    for (int i = 0; i < properties.size(); ++i) {
+        const DomProperty *property = properties.at(i);
+        if (findProperty(domWidget, property->attributeName()) != property)
+            dropped += droppedValues(QString(), property,
+                                     propertyValues(findProperty(domWidget, property->attributeName())));
+    }
+}
+
+// A whole number property of the element the widget did not take as it stands: one of
+// another type that is not a number, or a number the widget holds otherwise (an index out
+// of range). Qt's reader has already made a <number> of what it could not read 0.
+void dropUntakenNumber(const DomWidget *domWidget, const QWidget *widget, const QString &name,
+                       QStringList &dropped)
+{
+    const bool grid = name == rowProperty || name == columnProperty;
+    const DomProperty *property = findProperty(domWidget, name);
+    if (!property)
+        return;
+    const int held = widget->property(name.toLatin1().constData()).toInt();
+    bool number = property->kind() == DomProperty::Number;
+    if (!number)
+        propertyText(property).toInt(&number);
+    const QString text = propertyText(property);
+    if (number && text.toInt() == held)
+        return;
+    // A grid asked for more rows or columns than it can have said so itself as it was given.
+    if (grid && number && text.toInt() > maximumGridDimension && held == maximumGridDimension)
+        return;
+    const QStringList values = droppedValues(QString(), property);
+    for (const QString &value : values)
+        dropped.append(QStringLiteral("%1 (it has %2)").arg(value).arg(held));
+}
+
+// A pop-button matrix's texts: its "textList", a string list. A single string is a list of
+// one. Texts its items hold as well fill the entries the list leaves empty; those that would
+// replace a text of the list are not kept.
+QStringList popButtonTexts(const DomWidget *domWidget, const Lists &itemTexts,
+                           QVariantMap *sharedAttributes, QStringList &dropped)
+{
+    const DomProperty *property = findProperty(domWidget, textListProperty);
+    QStringList texts;
+    if (property && property->kind() == DomProperty::StringList) {
+        texts = property->elementStringList()->elementString();
+        *sharedAttributes = attributesOf(property->elementStringList());
+    } else if (property) {
+        texts.append(propertyText(property));
+        if (property->kind() == DomProperty::String)
+            *sharedAttributes = attributesOf(property->elementString());
+        QVector<QPair<QString, QString>> kept = {{QString(), texts.first()}};
+        for (auto a = sharedAttributes->cbegin(); a != sharedAttributes->cend(); ++a)
+            kept.append({a.key(), a.value().toString()});
+        if (sharedAttributes->value(QStringLiteral("notr")).toBool())
+            kept.append({QStringLiteral("notr"), QStringLiteral("true")});
+        dropped += droppedValues(QString(), property, kept);
+    }
+    const QStringList &fromItems = itemTexts[Text];
+    for (int i = 0; i < fromItems.size(); ++i) {
+        const QString &text = fromItems.at(i);
+        if (text.isEmpty() || text == EntryLists::at(texts, i))
+            continue;
+        if (!EntryLists::at(texts, i).isEmpty()) {
+            dropped.append(droppedValue(QStringLiteral("item %1 ").arg(i + 1), fieldName(Text),
+                                        {QString(), text}));
+            continue;
+        }
+        while (texts.size() <= i)
+            texts.append(QString());
+        texts[i] = text;
+    }
+    return texts;
 }
 
 // Qt's writer saves a tree or table view's headers as "header..." attributes of the view: it
@@ -526,6 +671,10 @@ void FormBuilder::saveExtraInfo(QWidget *widget, DomWidget *domWidget, DomWidget
         Lists texts;
         for (int i = 0; i < comboBox->count(); ++i)
             texts[Text].append(comboBox->itemText(i));
+        // The marks the items' texts were loaded with, while the items are the ones loaded.
+        const QVariantList marks = comboBox->stringAttributes(fieldName(Text));
+        if (marks.size() == comboBox->count())
+            texts.attributes[Text] = marks;
         writeItems(domWidget, texts, {Text});
         // An empty text leaves an empty item, which would load as nothing: keep it a text.
         const QVector<DomItem *> items = domWidget->elementItem();
@@ -559,6 +708,7 @@ DomWidget *FormBuilder::createDom(QWidget *widget, DomWidget *domParentWidget, b
             }
             domWidget->setElementWidget(pages);
             saveExtraInfo(domWidget, widget, nullptr);
+            restoreTitleMarks(domWidget, group);
         }
         return domWidget;
     }
@@ -602,6 +752,19 @@ QList<DomProperty *> FormBuilder::computeProperties(QObject *object)
         domProperty->setAttributeName(QLatin1String(property.name()));
         domProperty->setElementSet(keys.join(QLatin1Char('|')));
         properties.append(domProperty);
+    }
+    // A property the widget's class does not have was set as a dynamic property when the form
+    // was loaded (Designer keeps such properties as well); it is written back as one. Qt's own
+    // ("_q_...") are not form content.
+    const QList<QByteArray> dynamicNames = object->dynamicPropertyNames();
+    for (const QByteArray &name : dynamicNames) {
+        if (name.startsWith("_q_"))
+            continue;
+        if (DomProperty *domProperty =
+                    createProperty(object, QString::fromUtf8(name), object->property(name))) {
+            domProperty->setAttributeStdset(0);
+            properties.append(domProperty);
+        }
     }
     // Only what the writer keeps of an item view's header, so that it drops nothing.
     return isItemViewHeader(object) ? keptAsHeaderAttributes(properties) : properties;
@@ -672,8 +835,20 @@ void FormBuilder::saveExtraInfo(DomWidget *domWidget, QWidget *widget, void *con
             writeItems(domWidget, lists, matrixFields);
         }
     } else if (auto *comboBox = qobject_cast<ComboBox *>(widget)) {
-        // The items themselves are the form writer's; each gets its action.
-        writeItemActions(domWidget, comboBox->actionList());
+        // The items themselves are the form writer's; each gets its action. Designer writes
+        // only the items that carry its text role, those loaded with a text string.
+        QStringList actions = comboBox->actionList();
+        const int written = domWidget->elementItem().size();
+        if (written != comboBox->count()) {
+            QStringList ofWritten;
+            for (int i = 0; i < comboBox->count(); ++i) {
+                if (comboBox->itemData(i, Qt::DisplayPropertyRole).isValid())
+                    ofWritten.append(comboBox->actionAt(i));
+            }
+            if (ofWritten.size() == written)
+                actions = ofWritten;
+        }
+        writeItemActions(domWidget, actions);
     } else if (auto *group = qobject_cast<DrawbackBoxGroup *>(widget)) {
         savePageGroup(domWidget, group);
     }
@@ -684,38 +859,42 @@ void FormBuilder::loadExtraInfo(DomWidget *domWidget, QWidget *widget, void *con
     Q_UNUSED(context)
     if (!domWidget || !widget)
         return;
-    warnOfDroppedItems(domWidget, widget);
+    // What the form holds that the widget does not keep, named in one warning at the end.
+    QStringList dropped;
+    dropUnkeptItems(domWidget, widget, dropped);
+    if (QByteArray(widget->metaObject()->className()).startsWith("VoCc::"))
+        dropRepeatedProperties(domWidget, dropped);
 
     if (auto *options = qobject_cast<AbstractOptions *>(widget)) {
-        Lists lists = readItems(domWidget, optionFields);
+        Lists lists = readItems(domWidget, optionFields, &dropped);
         options->setTextList(lists[Text]);
         options->setIconList(lists[Icon]);
         options->setToolTips(lists[ToolTip]);
         options->setDataList(lists[Data]);
         giveAttributes(options, lists);
+        dropUntakenNumber(domWidget, widget, currentIndexProperty, dropped);
     } else if (auto *checkCombo = qobject_cast<CheckableTextComboBox *>(widget)) {
-        Lists lists = readItems(domWidget, checkComboFields);
+        Lists lists = readItems(domWidget, checkComboFields, &dropped);
         checkCombo->setItemTextList(lists[Text]);
         checkCombo->setToolTips(lists[ToolTip]);
         giveAttributes(checkCombo, lists);
     } else if (auto *matrix = qobject_cast<AbstractMatrixOptions *>(widget)) {
-        Lists lists = readItems(domWidget, matrixFields);
+        Lists lists = readItems(domWidget, matrixFields, &dropped);
         matrix->setTextList(lists[Text]);
         matrix->setIconList(lists[Icon]);
         matrix->setToolTips(lists[ToolTip]);
         matrix->setActionList(lists[Action]);
         giveAttributes(matrix, lists);
+        dropUntakenNumber(domWidget, widget, rowProperty, dropped);
+        dropUntakenNumber(domWidget, widget, columnProperty, dropped);
     } else if (auto *popButtons = qobject_cast<MatrixPopButtons *>(widget)) {
         // Texts are one string list, or in the items when they are marked differently (or in
         // a file written by hand).
-        const DomStringList *textList = stringListProperty(domWidget, textListProperty);
-        QVector<Field> fields = popCellFields;
-        if (!textList)
-            fields.append(Text);
-        Lists lists = readItems(domWidget, fields);
-        if (textList) {
-            lists[Text] = textList->elementString();
-            const QVariantMap shared = attributesOf(textList);
+        Lists lists = readItems(domWidget, matrixFields, &dropped);
+        if (findProperty(domWidget, textListProperty)) {
+            QVariantMap shared;
+            lists[Text] = popButtonTexts(domWidget, lists, &shared, dropped);
+            lists.attributes[Text].clear();
             if (!shared.isEmpty()) {
                 for (int i = 0; i < lists[Text].size(); ++i)
                     lists.attributes[Text].append(shared);
@@ -727,11 +906,36 @@ void FormBuilder::loadExtraInfo(DomWidget *domWidget, QWidget *widget, void *con
         popButtons->setToolTips(lists[ToolTip]);
         popButtons->setActionList(lists[Action]);
         giveAttributes(popButtons, lists);
+        dropUntakenNumber(domWidget, widget, rowProperty, dropped);
+        dropUntakenNumber(domWidget, widget, columnProperty, dropped);
     } else if (auto *comboBox = qobject_cast<ComboBox *>(widget)) {
-        QStringList actions = readItems(domWidget, {Action})[Action];
-        comboBox->setActionList(actions);
+        // The texts are the form reader's to load (Designer's, or the base builder's), as they
+        // read them: what they leave of an item's text is named here too.
+        const Lists lists = readItems(domWidget, {Text, Action}, &dropped);
+        // Designer makes an item of one without a string for its text, but does not save it:
+        // everything it holds is gone after the next save there.
+        const QVector<DomItem *> items = domWidget->elementItem();
+        for (int i = 0; i < items.size(); ++i) {
+            const QList<DomProperty *> properties = items.at(i)->elementProperty();
+            const bool textString = std::any_of(
+                    properties.cbegin(), properties.cend(), [](const DomProperty *property) {
+                        return property->attributeName() == fieldName(Text)
+                                && property->kind() == DomProperty::String;
+                    });
+            if (!textString)
+                addItemValues(items.at(i), QStringLiteral("item %1 (no text string) ").arg(i + 1),
+                              dropped);
+        }
+        comboBox->setActionList(lists[Action]);
+        comboBox->setStringAttributes(fieldName(Text), lists.attributes[Text]);
+        dropUntakenNumber(domWidget, widget, currentIndexProperty, dropped);
     } else if (auto *group = qobject_cast<DrawbackBoxGroup *>(widget)) {
-        loadPageGroup(domWidget, group);
+        loadPageGroup(domWidget, group, dropped);
+        dropUntakenNumber(domWidget, widget, currentIndexProperty, dropped);
+    }
+    if (!dropped.isEmpty()) {
+        qWarning("%s \"%s\": not kept from the form: %s", widget->metaObject()->className(),
+                 qPrintable(widget->objectName()), qPrintable(dropped.join(QStringLiteral("; "))));
     }
 }
 

@@ -4,6 +4,8 @@
 // or a warning says what is left out.
 
 #include "designertestcore.h"
+#include "formroundtrip.h"
+#include "formvalues.h"
 #include "linguistmessages.h"
 #include "uixml.h"
 #include "warninglog.h"
@@ -72,6 +74,37 @@ QString markedEntries()
     return CcTest::formXml(body, CcTest::pageGroupDeclaration());
 }
 
+// A row of everyValueKeptOrNamed: a form of one widget of the class holding inner.
+void formOf(const char *row, const char *className, const QString &inner)
+{
+    QTest::newRow(row) << CcTest::formXml(CcTest::widgetXml(className, "odd", inner),
+                                          CcTest::pageGroupDeclaration());
+}
+
+QString stringsXml(const char *name, const QStringList &strings)
+{
+    QString list;
+    for (const QString &string : strings)
+        list += QStringLiteral("<string>%1</string>").arg(string);
+    return QStringLiteral("<property name=\"%1\"><stringlist>%2</stringlist></property>")
+            .arg(QLatin1String(name), list);
+}
+
+QString losses(const char *road, const QByteArray &input, const CcTest::RoundTrip &trip)
+{
+    QStringList lost;
+    if (!trip.loaded)
+        lost << QStringLiteral("not loaded: ") + trip.error;
+    for (const FormValues::Value &loss :
+         FormValues::unexplainedLosses(input, trip.saved, trip.warnings))
+        lost << FormValues::describe(loss);
+    if (lost.isEmpty())
+        return QString();
+    return QStringLiteral("%1:\n%2\nwarnings:\n%3\nsaved:\n%4")
+            .arg(QLatin1String(road), lost.join(QLatin1Char('\n')),
+                 trip.warnings.join(QLatin1Char('\n')), QString::fromUtf8(trip.saved));
+}
+
 } // namespace
 
 class TestFormsInDesigner : public QObject
@@ -127,8 +160,8 @@ private slots:
         const QString textA = propertyXml("text", "A");
         oddForm("unknown item property", "VoCc::OptionButtons",
                 itemXml(textA + propertyXml("colour", "red")), ">A<",
-                "VoCc::OptionButtons \"odd\": item properties colour are not kept; its entries "
-                "have text, icon, toolTip, data");
+                "VoCc::OptionButtons \"odd\": not kept from the form: item 1 property "
+                "\"colour\" value \"red\"");
         oddForm("lists of unequal length", "VoCc::OptionRadios",
                 itemXml(textA + propertyXml("data", "1"))
                         + itemXml(propertyXml("toolTip", "only a tip")),
@@ -144,9 +177,94 @@ private slots:
                 "or columns a grid can have; limited to 99");
         oddForm("items on a widget without entries", "VoCc::Pane",
                 itemXml(propertyXml("text", "lost")), "",
-                "VoCc::Pane \"odd\": its 1 item(s) are not kept; this widget has no entries");
+                "VoCc::Pane \"odd\": not kept from the form: item 1 property \"text\" value "
+                "\"lost\"");
         oddForm("unknown widget property", "VoCc::ComboBox", propertyXml("bogus", "7", "number"),
                 "bogus");
+    }
+
+    void everyValueKeptOrNamed_data()
+    {
+        QTest::addColumn<QString>("form");
+        const QString textA = propertyXml("text", "A");
+        const QString grid = propertyXml("row", "2", "number") + propertyXml("column", "2", "number");
+        formOf("item text as a string list", "VoCc::OptionButtons",
+               itemXml(stringsXml("text", {"listed", "twice"})) + itemXml(textA));
+        formOf("item property given twice", "VoCc::OptionRadios",
+               itemXml(propertyXml("text", "first") + propertyXml("text", "second")));
+        formOf("unknown widget property", "VoCc::CheckableTextComboBox",
+               propertyXml("zork", "7", "number") + propertyXml("note", "kept"));
+        formOf("combo box item text given twice", "VoCc::ComboBox",
+               itemXml(propertyXml("text", "first") + propertyXml("text", "second")));
+        formOf("combo box item text as an icon", "VoCc::ComboBox",
+               itemXml(textA + propertyXml("action", "a1"))
+                       + itemXml(QStringLiteral("<property name=\"text\"><iconset><normaloff>x.png"
+                                                "</normaloff></iconset></property>")
+                                 + propertyXml("action", "a2"))
+                       + itemXml(propertyXml("text", "C") + propertyXml("action", "a3")));
+        formOf("item nested in an item", "VoCc::CheckableTextComboBox",
+               itemXml(textA + itemXml(propertyXml("text", "inner"))));
+        formOf("item nested in a combo box item", "VoCc::ComboBox",
+               itemXml(textA + itemXml(propertyXml("text", "inner"))));
+        formOf("marked combo box item", "VoCc::ComboBox",
+               itemXml(markedProperty("text", "Delta", "comment=\"menu\" extracomment=\"note\"")));
+        formOf("unknown item property", "VoCc::OptionButtons",
+               itemXml(textA + propertyXml("colour", "red")));
+        formOf("items on a widget without entries", "VoCc::Pane",
+               itemXml(propertyXml("text", "lost")));
+        formOf("marks on data", "VoCc::OptionComboBox",
+               itemXml(textA + QStringLiteral("<property name=\"data\"><string notr=\"true\" "
+                                              "comment=\"why\">d1</string></property>")));
+        formOf("pop-button text list as one string", "VoCc::MatrixPopButtons",
+               grid + propertyXml("textList", "alone")
+                       + itemXml(propertyXml("toolTip", "tip")));
+        formOf("pop-button texts in the list and the items", "VoCc::MatrixPopButtons",
+               grid + stringsXml("textList", {"one", ""})
+                       + itemXml(propertyXml("text", "other")) + itemXml(propertyXml("text", "two")));
+        formOf("pop-button text list given twice", "VoCc::MatrixPopButtons",
+               grid + stringsXml("textList", {"old"}) + stringsXml("textList", {"new"}));
+        formOf("rows given twice", "VoCc::MatrixPushButtons",
+               grid + propertyXml("row", "3", "number") + itemXml(textA));
+        formOf("rows below zero", "VoCc::MatrixRadioButtons",
+               propertyXml("row", "-3", "number") + propertyXml("column", "2", "number"));
+        formOf("columns not a number", "VoCc::MatrixCheckBoxes",
+               propertyXml("row", "2", "number") + propertyXml("column", "many"));
+        formOf("current entry out of range", "VoCc::OptionButtons",
+               propertyXml("currentIndex", "7", "number") + itemXml(textA));
+        formOf("current combo box item out of range", "VoCc::ComboBox",
+               propertyXml("currentIndex", "2147483647") + itemXml(textA));
+        formOf("current page out of range", "VoCc::DrawbackBoxGroup",
+               propertyXml("currentIndex", "4", "number")
+                       + CcTest::widgetXml("QWidget", "page", propertyXml("windowTitle", "only")));
+        formOf("marked page title", "VoCc::DrawbackBoxGroup",
+               CcTest::widgetXml("QWidget", "page",
+                                 markedProperty("windowTitle", "Title", "comment=\"c\" id=\"t\"")));
+        formOf("page title as a picture and a list", "VoCc::DrawbackBoxGroup",
+               CcTest::widgetXml("QWidget", "picture", propertyXml("windowTitle", "p.png", "pixmap"))
+                       + CcTest::widgetXml("QWidget", "list", stringsXml("windowTitle", {"a", "b"})));
+        formOf("page title given twice", "VoCc::DrawbackBoxGroup",
+               CcTest::widgetXml("QWidget", "page",
+                                 propertyXml("windowTitle", "first") + propertyXml("windowTitle", "second")));
+        formOf("page without a name titled by a picture", "VoCc::DrawbackBoxGroup",
+               CcTest::widgetXml("QWidget", "page", propertyXml("windowTitle", "first"))
+                       + QStringLiteral("<widget class=\"QWidget\">%1</widget>")
+                                 .arg(propertyXml("windowTitle", "p.png", "pixmap")));
+        formOf("pages of one name", "VoCc::DrawbackBoxGroup",
+               CcTest::widgetXml("QWidget", "page", propertyXml("windowTitle", "first"))
+                       + CcTest::widgetXml("QWidget", "page", propertyXml("windowTitle", "second")));
+    }
+
+    void everyValueKeptOrNamed()
+    {
+        // Through Designer (load, save, load, save) and through VoCc::FormBuilder (load, save),
+        // every value of the form is in what was saved, or a warning names the widget, the
+        // property and the value.
+        QFETCH(QString, form);
+        const QByteArray input = form.toUtf8();
+        const QString designer = losses("Designer", input, CcTest::throughDesigner(input));
+        QVERIFY2(designer.isEmpty(), qPrintable(designer));
+        const QString builder = losses("VoCc::FormBuilder", input, CcTest::throughFormBuilder(input));
+        QVERIFY2(builder.isEmpty(), qPrintable(builder));
     }
 
     void keptOrSaid()

@@ -4,6 +4,7 @@
 
 #include <QComboBox>
 #include <QStringList>
+#include <QVariantMap>
 
 namespace VoCc {
 
@@ -22,6 +23,12 @@ public:
     // The action name of the entry at index, or an empty text when it has none.
     QString actionAt(int index) const;
 
+    // How the items' texts were marked for translation in the form they were loaded from
+    // (list "text", one map per item, see AbstractOptions), for the form builder to write
+    // them again. Designer keeps the marks of a combo box's items itself.
+    Q_INVOKABLE QVariantList stringAttributes(const QString &list) const;
+    Q_INVOKABLE void setStringAttributes(const QString &list, const QVariantList &attributes);
+
 signals:
     // Emitted when the user picks an entry that names an action.
     void actionTriggered(const QString &action);
@@ -30,6 +37,7 @@ private:
     void onActivated(int index);
 
     QStringList m_actionList;
+    QVariantMap m_stringAttributes;
 };
 
 } // namespace VoCc

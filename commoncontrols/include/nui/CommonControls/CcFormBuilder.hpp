@@ -53,9 +53,13 @@ class FormTranslator;
 //    load, "currentIndex" is applied again once the pages exist.
 //
 // saveExtraInfo replaces what it wrote before, so saving the same element again adds
-// nothing. loadExtraInfo ignores unknown properties and items of widgets it does not know,
-// reads numbers and icon sets where strings are expected, and gives every list one entry
-// per item (empty where the item lacks it). Both take an unused context pointer.
+// nothing. loadExtraInfo reads numbers and icon sets where strings are expected and gives
+// every list one entry per item (empty where the item lacks it). What the element holds that
+// the widget does not keep (unknown item properties, items of widgets without entries and
+// items nested in items, repeated properties, the parts of a value that are not its text,
+// marks on identifiers, rows, columns and current indexes the widget did not take) is named
+// in one warning per widget: its class, object name, and each property and value. Both take
+// an unused context pointer.
 class VOCC_EXPORT FormBuilder : public QFormBuilder
 {
 public:
