@@ -119,6 +119,17 @@ Lists readItems(const DomWidget *domWidget, const QVector<Field> &fields, QStrin
             marked[field] = marked[field] || !attributes[field].isEmpty();
             if (!taken[field] || !dropped)
                 continue;
+            // A string keeps all it holds when it is a text or tool tip, and all but its
+            // comments and id when it is an identifier: the usual case costs no more than
+            // reading its attributes.
+            if (taken[field]->kind() == DomProperty::String) {
+                const DomString *string = taken[field]->elementString();
+                if (carriesAttributes(field) || !string
+                    || (string->attributeComment().isEmpty()
+                        && string->attributeExtraComment().isEmpty()
+                        && string->attributeId().isEmpty()))
+                    continue;
+            }
             // What of the value is kept: its text, and a string's translation marks (notr
             // on identifiers is theirs anyway).
             QVector<QPair<QString, QString>> kept = {{QString(), values[field]}};
