@@ -40,3 +40,14 @@ macro(cc_find_linguist_tools)
             "-DCC_BUILD_TESTS=OFF -DCC_BUILD_BENCHMARKS=OFF")
     endif()
 endmacro()
+
+# cc_add_long_run(<target> <test> <function> <VAR=value...>): a target that runs one function
+# of a QtTest suite offscreen, with the given variables and no time limit, for the long
+# seeded runs that ctest leaves out.
+function(cc_add_long_run target test function)
+    add_custom_target(${target}
+        COMMAND ${CMAKE_COMMAND} -E env QT_QPA_PLATFORM=offscreen QT_LOGGING_RULES=qt.qpa.*=false
+                ${ARGN} QTEST_FUNCTION_TIMEOUT=86400000 $<TARGET_FILE:${test}> ${function}
+        USES_TERMINAL)
+    add_dependencies(${target} ${test})
+endfunction()
