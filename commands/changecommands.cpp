@@ -1,6 +1,7 @@
 #include "changecommands.h"
 
 #include "entrystringattributes.h"
+#include "pagetitle.h"
 
 #include <nui/CommonControls/CcAbstractMatrixOptions.hpp>
 #include <nui/CommonControls/CcCheckableTextComboBox.hpp>
@@ -14,9 +15,6 @@
 #include <QtDesigner/private/formwindowbase_p.h>
 #include <QtDesigner/private/qdesigner_utils_p.h>
 
-#include <QDesignerFormEditorInterface>
-#include <QDesignerPropertySheetExtension>
-#include <QExtensionManager>
 
 #include <QCoreApplication>
 #include <QStandardItemModel>
@@ -196,20 +194,6 @@ void ChangeDrawbackBoxCommand::init(VoCc::DrawbackBoxGroup *group,
     m_finalOrder = finalOrder;
 }
 
-// A page's title is its "windowTitle", which Designer saves from the page's property sheet:
-// the sheet's value carries how the title is marked for translation.
-void ChangeDrawbackBoxCommand::keepTitleAttributes(QWidget *page, const QVariant &title)
-{
-    QDesignerFormWindowInterface *form = formWindow();
-    if (!page || !form)
-        return;
-    auto *sheet = qt_extension<QDesignerPropertySheetExtension *>(
-            form->core()->extensionManager(), page);
-    const int index = sheet ? sheet->indexOf(QStringLiteral("windowTitle")) : -1;
-    if (index >= 0)
-        sheet->setProperty(index, title.isValid() ? title : designerString(QString()));
-}
-
 void ChangeDrawbackBoxCommand::applyItems(const PageGroupContents &contents)
 {
     VoCc::DrawbackBoxGroup *group = m_widget.data();
@@ -219,7 +203,10 @@ void ChangeDrawbackBoxCommand::applyItems(const PageGroupContents &contents)
     for (int i = 0; i < group->count(); ++i) {
         group->setCurrentIndex(i);
         group->setPageTitle(titles.value(i));
-        keepTitleAttributes(group->widget(i), contents.items.value(i).value(ItemRoles::Text));
+        // The sheet's value carries how the title is marked for translation.
+        const QVariant title = contents.items.value(i).value(ItemRoles::Text);
+        PageTitle::write(formWindow(), group->widget(i),
+                         title.isValid() ? title : designerString(QString()));
     }
     QMetaObject::invokeMethod(group, "repaint");
     // Pages came or went: the object inspector shows the form's tree anew.

@@ -135,8 +135,6 @@ protected:
     void applyItems(const PageGroupContents &contents) override;
 
 private:
-    void keepTitleAttributes(QWidget *page, const QVariant &title);
-
     QList<int> m_initialOrder;
     QList<int> m_finalOrder;
 };

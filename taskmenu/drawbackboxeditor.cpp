@@ -2,6 +2,7 @@
 
 #include "designerpropertymanager.h"
 #include "itemlisteditor.h"
+#include "pagetitle.h"
 
 #include <nui/CommonControls/CcDrawbackBoxGroup.hpp>
 
@@ -11,8 +12,6 @@
 #include <QDesignerFormEditorInterface>
 #include <QDesignerFormWindowInterface>
 #include <QDesignerMetaDataBaseInterface>
-#include <QDesignerPropertySheetExtension>
-#include <QExtensionManager>
 
 using qdesigner_internal::DesignerPropertyManager;
 using qdesigner_internal::PropertyDefinition;
@@ -31,12 +30,7 @@ const PropertyDefinition pageProperties[] = {{ItemRoles::Text, 0, stringType, "t
 // how it is marked for translation; the plain title where the page has no sheet.
 QVariant titleOf(QDesignerFormWindowInterface *form, VoCc::DrawbackBoxGroup *group, int index)
 {
-    QWidget *page = group->widget(index);
-    auto *sheet = page && form ? qt_extension<QDesignerPropertySheetExtension *>(
-                                         form->core()->extensionManager(), page)
-                               : nullptr;
-    const int property = sheet ? sheet->indexOf(QStringLiteral("windowTitle")) : -1;
-    const QVariant value = property >= 0 ? sheet->property(property) : QVariant();
+    const QVariant value = PageTitle::read(form, group->widget(index));
     using qdesigner_internal::PropertySheetStringValue;
     if (value.canConvert<PropertySheetStringValue>()
         && qvariant_cast<PropertySheetStringValue>(value).value() == group->pageTitle(index))
