@@ -19,17 +19,14 @@ if [ "${NO_BUILD:-0}" != 1 ]; then
     BUILD_DIR=$build_dir "$root/scripts/setup.sh"
 fi
 
-module="$build_dir/plugin/libCommonControlsPlugin.so"
-if [ ! -f "$module" ]; then
-    echo "No plug-in module at $module: build first (scripts/setup.sh)." >&2
+# Designer scans <path>/designer for every plug-in path; the build makes a folder whose
+# designer/ links to just our module. The module finds CommonControls in the build tree
+# through its run path.
+plugin_root="$build_dir/designer-plugins"
+if [ ! -e "$plugin_root/designer/libCommonControlsPlugin.so" ]; then
+    echo "No plug-in module in $plugin_root/designer: build first (scripts/setup.sh)." >&2
     exit 1
 fi
-
-# Designer scans <path>/designer for every plug-in path: give it a folder holding just our
-# module. The module finds CommonControls in the build tree through its run path.
-plugin_root="$build_dir/designer-plugins"
-mkdir -p "$plugin_root/designer"
-ln -sf "$module" "$plugin_root/designer/"
 export QT_PLUGIN_PATH="$plugin_root${QT_PLUGIN_PATH:+:$QT_PLUGIN_PATH}"
 
 forms=("$@")

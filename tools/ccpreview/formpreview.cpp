@@ -29,9 +29,9 @@ QString nulPosition(const QByteArray &contents)
             .arg(nul - contents.lastIndexOf('\n', nul - 1));
 }
 
-// The position of the first XML error, or an empty text for a well-formed document whose
-// root is <ui>.
-QString checkXml(const QByteArray &contents)
+} // namespace
+
+QString FormPreview::xmlProblem(const QByteArray &contents)
 {
     QXmlStreamReader reader(contents);
     bool sawRoot = false;
@@ -55,8 +55,6 @@ QString checkXml(const QByteArray &contents)
     return sawRoot ? QString() : QStringLiteral("the document is empty");
 }
 
-} // namespace
-
 FormPreview::Status FormPreview::load(const QString &fileName)
 {
     m_fileName = fileName;
@@ -66,7 +64,7 @@ FormPreview::Status FormPreview::load(const QString &fileName)
         return FileError;
     }
     const QByteArray contents = file.readAll();
-    const QString xmlError = checkXml(contents);
+    const QString xmlError = xmlProblem(contents);
     if (!xmlError.isEmpty()) {
         m_errorString = QStringLiteral("%1 is not a form: %2").arg(fileName, xmlError);
         return FormatError;
@@ -88,6 +86,12 @@ FormPreview::Status FormPreview::load(const QString &fileName)
         return ClassError;
     }
 
+    m_image = picture(form.data(), &m_note);
+    return Ok;
+}
+
+QImage FormPreview::picture(QWidget *form, QString *note)
+{
     // Shown (offscreen), the form gets its layouts activated and its final size, as a user
     // would see it.
     form->setAttribute(Qt::WA_DontShowOnScreen);
@@ -97,16 +101,16 @@ FormPreview::Status FormPreview::load(const QString &fileName)
     QApplication::processEvents();
     const QSize size = form->size();
     const QSize shown = size.boundedTo(QSize(maximumImageSide, maximumImageSide));
+    note->clear();
     if (shown != size) {
-        m_note = QStringLiteral("the form is %1 x %2 pixels; the image shows its top left "
-                                "%3 x %4")
-                         .arg(size.width())
-                         .arg(size.height())
-                         .arg(shown.width())
-                         .arg(shown.height());
+        *note = QStringLiteral("the form is %1 x %2 pixels; the image shows its top left "
+                               "%3 x %4")
+                        .arg(size.width())
+                        .arg(size.height())
+                        .arg(shown.width())
+                        .arg(shown.height());
     }
-    m_image = form->grab(QRect(QPoint(0, 0), shown)).toImage();
-    return Ok;
+    return form->grab(QRect(QPoint(0, 0), shown)).toImage();
 }
 
 QImage FormPreview::render() const { return m_image; }

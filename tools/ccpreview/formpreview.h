@@ -3,6 +3,8 @@
 #include <QImage>
 #include <QString>
 
+class QWidget;
+
 // Loads a .ui form through the CommonControls form builder and renders it.
 class FormPreview
 {
@@ -22,6 +24,13 @@ public:
     Status save(const QString &pngFileName);
 
     QString errorString() const { return m_errorString; }
+
+    // The position and cause of the first XML error of a form file, or an empty text for a
+    // well-formed document whose root is <ui>.
+    static QString xmlProblem(const QByteArray &contents);
+    // A loaded form shown offscreen, laid out at its final size, as a user would see it; at
+    // most 4096 pixels each way, from its top left (note then says what was left out).
+    static QImage picture(QWidget *form, QString *note);
     // What the user should know about a form that did load (the image shows only part of
     // it), or an empty text.
     QString note() const { return m_note; }

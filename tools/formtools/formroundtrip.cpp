@@ -1,6 +1,6 @@
 #include "formroundtrip.h"
 
-#include "designertestcore.h"
+#include "designercore.h"
 
 #include <nui/CommonControls/CcFormBuilder.hpp>
 
@@ -8,7 +8,7 @@
 #include <QCoreApplication>
 #include <QScopedPointer>
 
-namespace CcTest {
+namespace CcForms {
 
 namespace {
 
@@ -40,7 +40,7 @@ private:
 
 } // namespace
 
-RoundTrip throughDesigner(const QByteArray &ui)
+RoundTrip throughDesigner(const QByteArray &ui, int saves, const QString &fileName)
 {
     RoundTrip trip;
     const QuietLog log;
@@ -48,12 +48,15 @@ RoundTrip throughDesigner(const QByteArray &ui)
     buffer.setData(ui);
     buffer.open(QIODevice::ReadOnly);
     QDesignerFormWindowInterface *form = createFormWindow();
+    if (!fileName.isEmpty())
+        form->setFileName(fileName);
     trip.loaded = form->setContents(&buffer, &trip.error);
     // Widgets bring their cells up to date from the event loop, icons read among them.
     QCoreApplication::processEvents();
     const QString saved = trip.loaded ? form->contents() : QString();
     closeFormWindow(form);
-    if (trip.loaded) {
+    trip.saved = saved.toUtf8();
+    if (trip.loaded && saves > 1) {
         QDesignerFormWindowInterface *again = createFormWindow(saved);
         trip.saved = again->contents().toUtf8();
         closeFormWindow(again);
@@ -62,7 +65,9 @@ RoundTrip throughDesigner(const QByteArray &ui)
     return trip;
 }
 
-RoundTrip throughFormBuilder(const QByteArray &ui)
+RoundTrip throughFormBuilder(
+        const QByteArray &ui,
+        const std::function<void(QWidget *, const VoCc::FormBuilder &)> &visit, bool save)
 {
     RoundTrip trip;
     const QuietLog log;
@@ -74,10 +79,14 @@ RoundTrip throughFormBuilder(const QByteArray &ui)
     trip.loaded = !form.isNull();
     QCoreApplication::processEvents();
     if (form) {
-        QBuffer out;
-        out.open(QIODevice::WriteOnly);
-        builder.save(&out, form.data());
-        trip.saved = out.data();
+        if (visit)
+            visit(form.data(), builder);
+        if (save) {
+            QBuffer out;
+            out.open(QIODevice::WriteOnly);
+            builder.save(&out, form.data());
+            trip.saved = out.data();
+        }
     } else {
         trip.error = builder.errorString();
     }
@@ -85,4 +94,4 @@ RoundTrip throughFormBuilder(const QByteArray &ui)
     return trip;
 }
 
-} // namespace CcTest
+} // namespace CcForms
