@@ -12,6 +12,8 @@
 
 #include <QBuffer>
 #include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
 #include <QHeaderView>
 #include <QMetaEnum>
 #include <QTableView>
@@ -336,6 +338,62 @@ QString documentProblem(const QByteArray &contents)
 // A combo box shows its items' own texts, and Qt measures every one of them whole: texts
 // beyond what any widget of the library shows are cut before the items are made, with one
 // warning for the widget.
+// The first path of an icon or picture property that names something other than a file or a
+// folder (a FIFO, a device, a socket), or an empty text. Qt's reader would open it and wait
+// for a writer, or read a device without end; a missing file only gives no picture.
+QString unreadablePath(const DomProperty *property, const QDir &folder)
+{
+    QStringList paths;
+    if (const DomResourceIcon *icon = property->elementIconSet()) {
+        paths << icon->text();
+        for (const DomResourcePixmap *state :
+             {icon->elementNormalOff(), icon->elementNormalOn(), icon->elementDisabledOff(),
+              icon->elementDisabledOn(), icon->elementActiveOff(), icon->elementActiveOn(),
+              icon->elementSelectedOff(), icon->elementSelectedOn()}) {
+            if (state)
+                paths << state->text();
+        }
+    } else if (const DomResourcePixmap *pixmap = property->elementPixmap()) {
+        paths << pixmap->text();
+    }
+    for (const QString &path : qAsConst(paths)) {
+        const QFileInfo info(folder, path.trimmed());
+        if (!path.trimmed().isEmpty() && info.exists() && !info.isFile() && !info.isDir())
+            return path.trimmed();
+    }
+    return QString();
+}
+
+// Leaves out of a list the icon and picture properties that name no file to read, each
+// said in dropped.
+QList<DomProperty *> withoutUnreadablePaths(const QList<DomProperty *> &properties,
+                                            const QDir &folder, const QString &where,
+                                            QStringList &dropped)
+{
+    QList<DomProperty *> kept;
+    for (DomProperty *property : properties) {
+        const QString path = unreadablePath(property, folder);
+        if (path.isEmpty()) {
+            kept << property;
+            continue;
+        }
+        dropped << QStringLiteral("%1property \"%2\" \"%3\" (no file: a pipe, device or socket)")
+                           .arg(where, property->attributeName(), path);
+        delete property;
+    }
+    return kept;
+}
+
+void dropUnreadableItemPaths(const QVector<DomItem *> &items, const QDir &folder,
+                             QStringList &dropped)
+{
+    for (DomItem *item : items) {
+        item->setElementProperty(withoutUnreadablePaths(item->elementProperty(), folder,
+                                                        QStringLiteral("item "), dropped));
+        dropUnreadableItemPaths(item->elementItem(), folder, dropped);
+    }
+}
+
 void cutLongItemTexts(DomWidget *domWidget)
 {
     const QString textName = fieldName(Text);
@@ -644,6 +702,16 @@ QWidget *FormBuilder::create(DomWidget *domWidget, QWidget *parentWidget)
 {
     if (domWidget->attributeClass() == QLatin1String("VoCc::ComboBox"))
         cutLongItemTexts(domWidget);
+    QStringList dropped;
+    const QDir folder = workingDirectory();
+    domWidget->setElementProperty(withoutUnreadablePaths(domWidget->elementProperty(), folder,
+                                                         QString(), dropped));
+    dropUnreadableItemPaths(domWidget->elementItem(), folder, dropped);
+    if (!dropped.isEmpty()) {
+        qWarning("%s \"%s\": not kept from the form: %s", qPrintable(domWidget->attributeClass()),
+                 qPrintable(domWidget->attributeName()),
+                 qPrintable(dropped.join(QStringLiteral("; "))));
+    }
     QWidget *widget = QFormBuilder::create(domWidget, parentWidget);
     if (widget)
         loadExtraInfo(domWidget, widget, nullptr);

@@ -426,6 +426,46 @@ private slots:
             QVERIFY2(saved.contains(QStringLiteral(">%1<").arg(path)), qPrintable(saved));
     }
 
+    void qtIconPropertiesThatAreNoFiles()
+    {
+        // Qt's own icon and picture properties, of a widget and of an item, naming a FIFO or a
+        // device: left out with a warning that names each, instead of a reader that waits for
+        // ever (the FIFO) or reads without end (the device). A missing file only gives no
+        // picture, without a word.
+        const PipeProbe pipe;
+        QVERIFY(!pipe.path.isEmpty());
+        const auto icon = [](const char *property, const QString &path) {
+            return QStringLiteral("<property name=\"%1\"><iconset><normaloff>%2</normaloff>"
+                                  "</iconset></property>")
+                    .arg(QLatin1String(property), path);
+        };
+        const QString body =
+                widgetXml("VoCc::Pane", "pane",
+                          icon("windowIcon", pipe.path))
+                + widgetXml("QListWidget", "list",
+                            itemXml(propertyXml("text", "A") + icon("icon", QStringLiteral("/dev/zero"))))
+                + widgetXml("QLabel", "label",
+                            QStringLiteral("<property name=\"pixmap\"><pixmap>%1</pixmap></property>")
+                                    .arg(pipe.path))
+                + widgetXml("VoCc::Pane", "kept", icon("windowIcon", QStringLiteral("missing.png")));
+        const WarningLog log;
+        QScopedPointer<QWidget> form(loadForm(formXml(body)));
+        QVERIFY(form);
+        QVERIFY(!pipe.wasOpened());
+        QCOMPARE(log.warnings,
+                 QStringList({QStringLiteral("VoCc::Pane \"pane\": not kept from the form: "
+                                             "property \"windowIcon\" \"%1\" (no file: a pipe, "
+                                             "device or socket)")
+                                      .arg(pipe.path),
+                              QStringLiteral("QListWidget \"list\": not kept from the form: item "
+                                             "property \"icon\" \"/dev/zero\" (no file: a pipe, "
+                                             "device or socket)"),
+                              QStringLiteral("QLabel \"label\": not kept from the form: property "
+                                             "\"pixmap\" \"%1\" (no file: a pipe, device or "
+                                             "socket)")
+                                      .arg(pipe.path)}));
+    }
+
     void showsLongTextsCut()
     {
         // An entry keeps its whole text; widgets show its first 1,000 characters. A combo box's
