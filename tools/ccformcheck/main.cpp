@@ -156,8 +156,11 @@ int main(int argc, char *argv[])
     QCommandLineOption pictures(QStringLiteral("pictures"), QString(),
                                       QStringLiteral("DIR"));
     pictures.setFlags(QCommandLineOption::HiddenFromHelp);
+    // A worker's modules: QGuiApplication takes "--plugin" as an option of its own.
+    QCommandLineOption modules(QStringLiteral("module"), QString(), QStringLiteral("FILE"));
+    modules.setFlags(QCommandLineOption::HiddenFromHelp);
     for (const QCommandLineOption &option :
-         {jobs, timeout, requireIds, junit, html, plugin, uic, workerMode, pictures})
+         {jobs, timeout, requireIds, junit, html, plugin, uic, workerMode, pictures, modules})
         parser.addOption(option);
 
     const auto usage = [&](const QString &problem) {
@@ -182,7 +185,7 @@ int main(int argc, char *argv[])
         return usage(QStringLiteral("--timeout needs a number of seconds, 1 or more"));
     options.junit = parser.value(junit);
     options.html = parser.value(html);
-    options.plugins = parser.values(plugin);
+    options.plugins = worker ? parser.values(modules) : parser.values(plugin);
     if (options.plugins.isEmpty() && QFileInfo::exists(QStringLiteral(CC_PLUGIN_MODULE)))
         options.plugins << QStringLiteral(CC_PLUGIN_MODULE);
     options.check.requireIds = parser.isSet(requireIds);
@@ -204,7 +207,7 @@ int main(int argc, char *argv[])
     QStringList workerArguments {QStringLiteral("--worker"), QStringLiteral("--uic"),
                                  options.check.uic};
     for (const QString &module : options.plugins)
-        workerArguments << QStringLiteral("--plugin") << QFileInfo(module).absoluteFilePath();
+        workerArguments << QStringLiteral("--module") << QFileInfo(module).absoluteFilePath();
     if (options.check.requireIds)
         workerArguments << QStringLiteral("--require-ids");
     if (!options.html.isEmpty())

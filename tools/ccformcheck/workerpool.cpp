@@ -110,6 +110,9 @@ void WorkerPool::read(Worker *worker)
         const QByteArray line = worker->output.left(end);
         worker->output.remove(0, end + 1);
         if (line.startsWith(stageTag)) {
+            // From its first step on, what the worker says is about this form.
+            if (worker->stage == QLatin1String("starting"))
+                worker->errors.clear();
             worker->stage = QString::fromUtf8(line.mid(stageTag.size()));
         } else if (line.startsWith(resultTag) && worker->index >= 0) {
             const QJsonDocument json = QJsonDocument::fromJson(line.mid(resultTag.size()));

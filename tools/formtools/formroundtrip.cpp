@@ -2,10 +2,13 @@
 
 #include "designercore.h"
 
+#include <QtDesigner/private/qtresourcemodel_p.h>
+
 #include <nui/CommonControls/CcFormBuilder.hpp>
 
 #include <QBuffer>
 #include <QCoreApplication>
+#include <QDesignerFormEditorInterface>
 #include <QScopedPointer>
 
 namespace CcForms {
@@ -51,6 +54,10 @@ RoundTrip throughDesigner(const QByteArray &ui, int saves, const QString &fileNa
     if (!fileName.isEmpty())
         form->setFileName(fileName);
     trip.loaded = form->setContents(&buffer, &trip.error);
+    // Designer makes the resource files a form names the current ones when the form becomes
+    // the active one; the save finds each icon's resource file among them.
+    if (trip.loaded && form->resourceSet())
+        form->core()->resourceModel()->setCurrentResourceSet(form->resourceSet());
     // Widgets bring their cells up to date from the event loop, icons read among them.
     QCoreApplication::processEvents();
     const QString saved = trip.loaded ? form->contents() : QString();
