@@ -21,15 +21,9 @@
 #include <QDomDocument>
 #include <QElapsedTimer>
 #include <QRandomGenerator>
-#include <QTemporaryDir>
 #include <QtTest>
 
-#include <atomic>
-#include <chrono>
-#include <condition_variable>
 #include <csignal>
-#include <mutex>
-#include <thread>
 
 #include <unistd.h>
 
@@ -493,98 +487,64 @@ MutatedForm generate(quint32 seed)
     return form;
 }
 
-// The per-form limit and the command that runs the form again, reported from a watchdog
-// thread and from the handlers of fatal signals.
-const int formSeconds = 30;
+// The command that runs a form again, printed when the form fails, and by the handler of an
+// alarm (the form took longer than the time limit) or of a fatal signal (it crashed).
+const unsigned formSeconds = 30;
 char rerun[512];
-std::mutex watchMutex;
-std::condition_variable watchWake;
-std::chrono::steady_clock::time_point watchDeadline = std::chrono::steady_clock::time_point::max();
-bool watchStop = false;
 
-void announce(const char *what)
+QString rerunCommand(const MutatedForm &form)
 {
-    const ssize_t a = write(STDERR_FILENO, what, strlen(what));
-    const ssize_t b = write(STDERR_FILENO, rerun, strlen(rerun));
-    Q_UNUSED(a)
-    Q_UNUSED(b)
+    return QStringLiteral("CC_MUTATED_FORMS=1 CC_MUTATION_SEED=%1 QT_QPA_PLATFORM=offscreen %2 "
+                          "mutatedForms")
+            .arg(form.seed)
+            .arg(QCoreApplication::applicationFilePath());
 }
 
 void fatalSignal(int signal)
 {
-    announce("\nA mutated form crashed the loader. Run it again with:\n");
+    const char *what = signal == SIGALRM
+            ? "\nA mutated form took longer than the time limit. Run it again with:\n"
+            : "\nA mutated form crashed the loader. Run it again with:\n";
+    const ssize_t a = write(STDERR_FILENO, what, strlen(what));
+    const ssize_t b = write(STDERR_FILENO, rerun, strlen(rerun));
+    Q_UNUSED(a)
+    Q_UNUSED(b)
+    if (signal == SIGALRM)
+        std::_Exit(3);
     std::signal(signal, SIG_DFL);
     std::raise(signal);
 }
 
-void watch()
-{
-    std::unique_lock<std::mutex> lock(watchMutex);
-    while (!watchStop) {
-        if (watchWake.wait_until(lock, watchDeadline) == std::cv_status::timeout
-            && std::chrono::steady_clock::now() >= watchDeadline) {
-            announce("\nA mutated form took longer than the time limit. Run it again with:\n");
-            std::_Exit(3);
-        }
-    }
-}
-
-void startWatch(const MutatedForm &form)
-{
-    const QByteArray command =
-            QStringLiteral("CC_MUTATED_FORMS=1 CC_MUTATION_SEED=%1 QT_QPA_PLATFORM=offscreen %2 "
-                           "mutatedForms\n(%3)\n")
-                    .arg(form.seed)
-                    .arg(QCoreApplication::applicationFilePath(), describe(form))
-                    .toLocal8Bit();
-    std::lock_guard<std::mutex> lock(watchMutex);
-    qstrncpy(rerun, command.constData(), sizeof rerun);
-    watchDeadline = std::chrono::steady_clock::now() + std::chrono::seconds(formSeconds);
-    watchWake.notify_all();
-}
-
-void stopWatch()
-{
-    std::lock_guard<std::mutex> lock(watchMutex);
-    watchDeadline = std::chrono::steady_clock::time_point::max();
-    watchWake.notify_all();
-}
-
-// What is wrong with one road's result for the input, or an empty text.
 // How many forms each road refused, and how many warnings they raised, in the last run.
 int refusedForms[2] = {};
 int warnings[2] = {};
 
+// What is wrong with one road's result for the input, or an empty text.
 QString problemsOf(const char *road, const QByteArray &input, const RoundTrip &trip)
 {
     const int r = road[0] == 'D' ? 0 : 1;
     refusedForms[r] += trip.loaded ? 0 : 1;
     warnings[r] += int(trip.warnings.size());
     QStringList problems;
-    if (!trip.loaded && qEnvironmentVariableIsSet("CC_MUTATION_REFUSALS"))
-        fprintf(stderr, "refused: %s\n", qPrintable(trip.error));
     if (!trip.loaded) {
+        if (qEnvironmentVariableIsSet("CC_MUTATION_REFUSALS"))
+            fprintf(stderr, "refused: %s\n", qPrintable(trip.error));
+        // The reader's message names a line.
         if (trip.error.trimmed().isEmpty())
             problems << QStringLiteral("refused without a reason");
     } else {
         for (const FormValues::Value &loss :
              FormValues::unexplainedLosses(input, trip.saved, trip.warnings))
             problems << QStringLiteral("lost without a word: ") + FormValues::describe(loss);
-    }
-    // A warning has to say which widget it is about: its class and its name in quotes. (A
-    // form refused is refused with the reader's message, which names a line.)
-    if (!trip.loaded)
-        return problems.isEmpty()
-                ? QString()
-                : QStringLiteral("%1: %2").arg(QLatin1String(road),
-                                               problems.join(QStringLiteral("\n  ")));
-    const QStringList widgets = FormValues::widgetsOf(input) + FormValues::widgetsOf(trip.saved);
-    for (const QString &warning : trip.warnings) {
-        const bool named =
-                std::any_of(widgets.cbegin(), widgets.cend(),
-                            [&](const QString &widget) { return warning.contains(widget); });
-        if (!named)
-            problems << QStringLiteral("a warning that names no widget of the form: ") + warning;
+        // A warning has to say which widget it is about: its class and its name in quotes.
+        const QStringList widgets =
+                FormValues::widgetsOf(input) + FormValues::widgetsOf(trip.saved);
+        for (const QString &warning : trip.warnings) {
+            if (std::none_of(widgets.cbegin(), widgets.cend(),
+                             [&](const QString &widget) { return warning.contains(widget); }))
+                problems << QStringLiteral("a warning that names no widget of the form: ")
+                                + warning;
+        }
     }
     if (problems.isEmpty())
         return QString();
@@ -593,19 +553,21 @@ QString problemsOf(const char *road, const QByteArray &input, const RoundTrip &t
 
 QString runForm(const MutatedForm &form)
 {
-    startWatch(form);
+    const QByteArray command = QStringLiteral("%1\n(%2)\n")
+                                       .arg(rerunCommand(form), describe(form))
+                                       .toLocal8Bit();
+    qstrncpy(rerun, command.constData(), sizeof rerun);
+    alarm(formSeconds);
     const QByteArray input = mutatedText(form);
-    QStringList problems;
     oddPaths->pipe.forget();
-    const QString designer = problemsOf("Designer", input, throughDesigner(input));
-    if (!designer.isEmpty())
-        problems << designer;
-    const QString builder = problemsOf("VoCc::FormBuilder", input, throughFormBuilder(input));
-    if (!builder.isEmpty())
-        problems << builder;
-    if (oddPaths->pipe.wasOpened())
-        problems << QStringLiteral("an icon path naming a FIFO was opened");
-    stopWatch();
+    // The roads in this order: the pipe is looked at after both.
+    QStringList problems = {
+            problemsOf("Designer", input, throughDesigner(input)),
+            problemsOf("VoCc::FormBuilder", input, throughFormBuilder(input)),
+            oddPaths->pipe.wasOpened() ? QStringLiteral("an icon path naming a FIFO was opened")
+                                       : QString()};
+    alarm(0);
+    problems.removeAll(QString());
     return problems.join(QLatin1Char('\n'));
 }
 
@@ -640,7 +602,6 @@ class TestMutatedForms : public QObject
     Q_OBJECT
     TestPictures m_pictures;
     OddPaths m_oddPaths;
-    std::thread m_watchdog;
 
 private slots:
     void initTestCase()
@@ -650,20 +611,8 @@ private slots:
         pictureFile = m_pictures.red;
         oddPaths = &m_oddPaths;
         QVERIFY(!m_oddPaths.pipe.path.isEmpty());
-        for (int signal : {SIGSEGV, SIGBUS, SIGFPE, SIGILL, SIGABRT})
+        for (int signal : {SIGSEGV, SIGBUS, SIGFPE, SIGILL, SIGABRT, SIGALRM})
             std::signal(signal, fatalSignal);
-        m_watchdog = std::thread(watch);
-    }
-
-    void cleanupTestCase()
-    {
-        {
-            std::lock_guard<std::mutex> lock(watchMutex);
-            watchStop = true;
-            watchWake.notify_all();
-        }
-        m_watchdog.join();
-        oddPaths = nullptr;
     }
 
     void startingFormsLoseNothing()
@@ -772,16 +721,12 @@ private slots:
             const QString broken = runForm(form);
             if (!broken.isEmpty()) {
                 const MutatedForm small = shrink(form);
-                QFAIL(qPrintable(
-                        QStringLiteral("%1\nRun it again with: CC_MUTATED_FORMS=1 "
-                                       "CC_MUTATION_SEED=%2 %3 mutatedForms\nshrunk to "
-                                       "%4\n%5\n%6")
-                                .arg(broken)
-                                .arg(form.seed)
-                                .arg(QCoreApplication::applicationFilePath(), describe(small),
-                                     runForm(small),
-                                     QString::fromUtf8(mutatedText(MutatedForm {
-                                             small.seed, small.families, 0, small.mutations})))));
+                QFAIL(qPrintable(QStringLiteral("%1\nRun it again with: %2\nshrunk to %3\n%4\n%5")
+                                         .arg(broken, rerunCommand(form), describe(small),
+                                              runForm(small),
+                                              QString::fromUtf8(mutatedText(MutatedForm {
+                                                      small.seed, small.families, 0,
+                                                      small.mutations})))));
             }
         }
         // Printed whatever QtTest's limit on messages: the suite's time is a figure to watch.
