@@ -1,6 +1,8 @@
 // Forms translated by VoCc::FormBuilder: Qt's lupdate reads the example form and a form of Qt's
 // own widgets, each message gets a translation, lrelease makes the .qm files, and the loaded
 // forms show every text translated, at load and again on a language change.
+#include "linguistmessages.h"
+
 #include <nui/CommonControls/CcCheckableTextComboBox.hpp>
 #include <nui/CommonControls/CcFormBuilder.hpp>
 #include <nui/CommonControls/CcLineEditEx.hpp>
@@ -13,7 +15,6 @@
 #include <QComboBox>
 #include <QFile>
 #include <QMetaProperty>
-#include <QProcess>
 #include <QRegularExpression>
 #include <QScopedPointer>
 #include <QSet>
@@ -21,10 +22,10 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QToolBox>
-#include <QTranslator>
 #include <QXmlStreamReader>
 
 using namespace VoCc;
+using CcTest::Message;
 
 namespace {
 
@@ -34,49 +35,6 @@ const QString qtWidgetsForm = QStringLiteral(CC_QT_WIDGETS_FORM);
 // The two translations every message gets.
 QString first(const QString &source) { return QStringLiteral("«%1»").arg(source); }
 QString second(const QString &source) { return QStringLiteral("‹%1›").arg(source); }
-
-// A message of a .ts file: the form class it belongs to, its text and its comment.
-struct Message
-{
-    QString context;
-    QString source;
-    QString comment;
-    bool operator==(const Message &other) const
-    {
-        return context == other.context && source == other.source && comment == other.comment;
-    }
-};
-using HashValue = decltype(::qHash(QString()));
-HashValue qHash(const Message &message, HashValue seed = 0)
-{
-    return ::qHash(message.context + QLatin1Char('\n') + message.source + QLatin1Char('\n')
-                           + message.comment,
-                   seed);
-}
-
-QVector<Message> readMessages(const QString &tsFile)
-{
-    QFile file(tsFile);
-    if (!file.open(QIODevice::ReadOnly))
-        return {};
-    QXmlStreamReader reader(&file);
-    QVector<Message> messages;
-    QString context;
-    while (!reader.atEnd()) {
-        reader.readNext();
-        if (!reader.isStartElement())
-            continue;
-        if (reader.name() == QLatin1String("name"))
-            context = reader.readElementText();
-        else if (reader.name() == QLatin1String("message"))
-            messages.append({context, QString(), QString()});
-        else if (reader.name() == QLatin1String("source"))
-            messages.last().source = reader.readElementText();
-        else if (reader.name() == QLatin1String("comment"))
-            messages.last().comment = reader.readElementText();
-    }
-    return messages;
-}
 
 // The texts a form marks notr="true", single strings and string lists alike.
 QSet<QString> untranslatedTexts(const QString &form)
@@ -100,18 +58,6 @@ QSet<QString> untranslatedTexts(const QString &form)
             texts.insert(reader.readElementText());
     }
     return texts;
-}
-
-QString runTool(const QString &program, const QStringList &arguments)
-{
-    QProcess process;
-    process.start(program, arguments);
-    if (!process.waitForFinished(60000) || process.exitStatus() != QProcess::NormalExit
-        || process.exitCode() != 0)
-        return QStringLiteral("%1 %2 failed: %3")
-                .arg(program, arguments.join(QLatin1Char(' ')),
-                     QString::fromLocal8Bit(process.readAllStandardError()));
-    return QString();
 }
 
 void addProperties(const QObject *object, QStringList &texts)
@@ -222,21 +168,6 @@ QStringList describe(const QSet<Message> &messages)
     return texts;
 }
 
-// Records what it is asked to translate, and translates nothing.
-class RecordingTranslator : public QTranslator
-{
-public:
-    QString translate(const char *context, const char *sourceText, const char *disambiguation,
-                      int n) const override
-    {
-        Q_UNUSED(n)
-        asked.append({QString::fromUtf8(context), QString::fromUtf8(sourceText),
-                      QString::fromUtf8(disambiguation)});
-        return QString();
-    }
-    mutable QVector<Message> asked;
-};
-
 } // namespace
 
 class TestFormTranslation : public QObject
@@ -250,10 +181,10 @@ private slots:
         // translated twice over, and lrelease makes a .qm of each translation.
         QVERIFY(m_folder.isValid());
         const QString ts = m_folder.filePath(QStringLiteral("forms.ts"));
-        QString failure = runTool(QStringLiteral(CC_LUPDATE),
+        QString failure = CcTest::runTool(QStringLiteral(CC_LUPDATE),
                                   {exampleForm, qtWidgetsForm, QStringLiteral("-ts"), ts});
         QVERIFY2(failure.isEmpty(), qPrintable(failure));
-        m_messages = readMessages(ts);
+        m_messages = CcTest::tsMessages(ts);
         QVERIFY(m_messages.size() > 100);
 
         QFile file(ts);
@@ -279,7 +210,7 @@ private slots:
             QVERIFY(out.open(QIODevice::WriteOnly));
             out.write(filled.toUtf8());
             out.close();
-            failure = runTool(QStringLiteral(CC_LRELEASE),
+            failure = CcTest::runTool(QStringLiteral(CC_LRELEASE),
                               {base + QStringLiteral(".ts"), QStringLiteral("-qm"),
                                base + QStringLiteral(".qm")});
             QVERIFY2(failure.isEmpty(), qPrintable(failure));
@@ -407,7 +338,7 @@ private slots:
         QVERIFY(untranslated.contains(QStringLiteral("Iso")));
         QVERIFY(untranslated.contains(QStringLiteral("fileOpen")));
 
-        RecordingTranslator recorder;
+        CcTest::RecordingTranslator recorder;
         QCoreApplication::installTranslator(&recorder);
         QScopedPointer<QWidget> example(load(exampleForm, true, true));
         QScopedPointer<QWidget> qtWidgets(load(qtWidgetsForm, true, true));
