@@ -9,14 +9,8 @@
 
 #include <QtDesigner/private/ui4_p.h>
 
-#include <QAbstractItemView>
-#include <QBuffer>
-#include <QFile>
-#include <QRegularExpression>
-#include <QScopedPointer>
-#include <QTest>
-#include <QXmlStreamReader>
-#include <QXmlStreamWriter>
+#include <QtWidgets>
+#include <QtTest>
 
 using namespace VoCc;
 using namespace CcTest;

@@ -10,19 +10,8 @@
 #include <nui/CommonControls/CcMatrixPopButtons.hpp>
 #include <nui/CommonControls/template/CcAbstractOptions.hpp>
 
-#include <QAbstractItemView>
-#include <QApplication>
-#include <QComboBox>
-#include <QFile>
-#include <QMetaProperty>
-#include <QRegularExpression>
-#include <QScopedPointer>
-#include <QSet>
-#include <QTabBar>
-#include <QTemporaryDir>
-#include <QTest>
-#include <QToolBox>
-#include <QXmlStreamReader>
+#include <QtWidgets>
+#include <QtTest>
 
 using namespace VoCc;
 using CcTest::Message;

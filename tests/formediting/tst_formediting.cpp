@@ -11,13 +11,7 @@
 
 #include <nui/CommonControls/CcDrawbackBoxGroup.hpp>
 
-#include <QDesignerContainerExtension>
-#include <QDesignerFormEditorInterface>
-#include <QDesignerFormWindowCursorInterface>
-#include <QDesignerFormWindowInterface>
-#include <QExtensionManager>
-#include <QToolButton>
-#include <QUndoStack>
+#include <QtDesigner>
 
 using namespace CcTest;
 using Driver = ItemDialogDriver;

@@ -10,12 +10,7 @@
 
 #include <QtDesigner/private/formwindowbase_p.h>
 
-#include <QDesignerFormWindowInterface>
-#include <QListWidget>
-#include <QPushButton>
-#include <QScrollBar>
-#include <QSignalSpy>
-#include <QToolButton>
+#include <QtDesigner>
 #include <QtTest>
 
 using namespace qdesigner_internal;

@@ -10,8 +10,7 @@
 #include "uixml.h"
 #include "warninglog.h"
 
-#include <QDesignerFormWindowInterface>
-#include <QFile>
+#include <QtDesigner>
 #include <QtTest>
 
 namespace {

@@ -18,9 +18,7 @@
 #include "pipeprobe.h"
 #include "testpictures.h"
 
-#include <QDomDocument>
-#include <QElapsedTimer>
-#include <QRandomGenerator>
+#include <QtXml>
 #include <QtTest>
 
 #include <csignal>

@@ -3,18 +3,7 @@
 #include "designertestcore.h"
 #include "modalanswer.h"
 
-#include <QCheckBox>
-#include <QDesignerFormEditorInterface>
-#include <QDesignerTaskMenuExtension>
-#include <QExtensionManager>
-#include <QHeaderView>
-#include <QListWidget>
-#include <QMenu>
-#include <QPushButton>
-#include <QSpinBox>
-#include <QTableWidget>
-#include <QToolButton>
-#include <QTreeWidget>
+#include <QtDesigner>
 #include <QtTest>
 
 namespace CcTest {

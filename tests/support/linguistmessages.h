@@ -3,14 +3,7 @@
 // What Qt's lupdate finds in a form: the messages a translator would get; and a translator that
 // records what it is asked.
 
-#include <QFile>
-#include <QHash>
-#include <QProcess>
-#include <QStringList>
-#include <QTemporaryDir>
-#include <QTranslator>
-#include <QVector>
-#include <QXmlStreamReader>
+#include <QtCore>
 
 namespace CcTest {
 

@@ -29,12 +29,8 @@
 #include <nui/CommonControls/template/CcOptionButtons.hpp>
 #include <nui/CommonControls/template/CcOptionRadios.hpp>
 
-#include <QDesignerContainerExtension>
-#include <QDesignerFormWindowInterface>
 #include <QExtensionFactory>
-#include <QRandomGenerator>
-#include <QTabWidget>
-#include <QUndoStack>
+#include <QtDesigner>
 
 using namespace CcTest;
 using Driver = ItemDialogDriver;
