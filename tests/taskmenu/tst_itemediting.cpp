@@ -243,7 +243,6 @@ const Family families[] = {
 };
 // clang-format on
 const int familyCount = int(std::size(families));
-const Family &pageGroupFamily = families[5];
 
 // A form holding one widget of the family, named "edited", with the entries given or its own.
 QString familyForm(const Family &family, const QString &entries)
@@ -746,50 +745,6 @@ private slots:
                          QStringLiteral("False"));
         };
         QCOMPARE(edit(formChild(reopened, "edited"), shown, false), QString());
-    }
-
-    // Moves that cancel out and an insert deleted again push nothing and make no page; new
-    // rows become new pages with names of their own, moved pages stay the same objects.
-    void pageGroupKeepsItsPageObjects()
-    {
-        QDesignerFormWindowInterface *form = createFormWindow(familyForm(pageGroupFamily));
-        const auto closeForm = qScopeGuard([form] { closeFormWindow(form); });
-        auto *group = formChild<VoCc::DrawbackBoxGroup>(form, "edited");
-        QVERIFY(group);
-        const QWidgetList original = pagesOf(group);
-        const int boxes = group->findChildren<VoCc::DrawbackBox *>().size();
-        QCOMPARE(edit(group,
-                      [](Driver &dialog) {
-                          dialog.select(1);
-                          dialog.click("moveListItemUpButton");
-                          dialog.click("moveListItemDownButton");
-                          dialog.addRow(QStringLiteral("Gone"));
-                          dialog.click("deleteListItemButton");
-                      }),
-                 QString());
-        QCOMPARE(form->commandHistory()->count(), 0);
-        QCOMPARE(group->findChildren<VoCc::DrawbackBox *>().size(), boxes);
-
-        QCOMPARE(edit(group,
-                      [](Driver &dialog) {
-                          dialog.select(2);
-                          dialog.click("moveListItemUpButton");
-                          dialog.addRow(QStringLiteral("New1"));
-                          dialog.addRow(QStringLiteral("New2"));
-                      }),
-                 QString());
-        const QWidgetList edited = pagesOf(group);
-        QCOMPARE(edited.size(), 5);
-        QCOMPARE(edited.mid(0, 2), QWidgetList({original.at(0), original.at(2)}));
-        QCOMPARE(edited.at(4), original.at(1));
-        QCOMPARE(shownByPageGroup(group), QStringList({"A", "C", "New1", "New2", "B"}));
-        QVERIFY(!original.contains(edited.at(2)));
-        QVERIFY(!original.contains(edited.at(3)));
-        QVERIFY(edited.at(2)->objectName().startsWith(QLatin1String("page")));
-        QVERIFY(edited.at(2)->objectName() != edited.at(3)->objectName());
-        QCOMPARE(group->currentIndex(), 4);
-        form->commandHistory()->undo();
-        QCOMPARE(group->currentIndex(), 2);
     }
 
     // Each family's context menu: one entry, from its own factory, serving task menus of
