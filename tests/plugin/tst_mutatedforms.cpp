@@ -18,8 +18,8 @@
 #include "pipeprobe.h"
 #include "testpictures.h"
 
-#include <QtXml>
 #include <QtTest>
+#include <QtXml>
 
 #include <csignal>
 
@@ -142,33 +142,32 @@ QString startingForm(const MutatedForm &form)
                                       "extracomment=\"e%1\">%2</string></property>")
                         .arg(i)
                         .arg(escaped(t));
-            return stringXml(QStringLiteral("text"), t);
+            return stringXml("text", t);
         };
         const auto icon = [&](int i) {
-            return stringXml(QStringLiteral("icon"),
-                             i == 0 ? pictureFile : QStringLiteral("icons/i%1.png").arg(i), true);
+            return stringXml("icon", i == 0 ? pictureFile : QStringLiteral("icons/i%1.png").arg(i),
+                             true);
         };
         const auto tip = [&](int i) {
-            return stringXml(QStringLiteral("toolTip"),
-                             QStringLiteral("tip%1 ").arg(i) + word(random.generate()));
+            return stringXml("toolTip", QStringLiteral("tip%1 ").arg(i) + word(random.generate()));
         };
         const auto data = [&](int i) {
-            return stringXml(QStringLiteral("data"), QStringLiteral("d%1").arg(i), true);
+            return stringXml("data", QStringLiteral("d%1").arg(i), true);
         };
         const auto action = [&](int i) {
-            return stringXml(QStringLiteral("action"), QStringLiteral("act%1").arg(i), true);
+            return stringXml("action", QStringLiteral("act%1").arg(i), true);
         };
         if (className == QLatin1String("VoCc::DrawbackBoxGroup")) {
             for (int i = 0; i < entries; ++i) {
                 inner += QStringLiteral("<widget class=\"QWidget\" name=\"page%1\">%2</widget>")
                                  .arg(i)
-                                 .arg(stringXml(QStringLiteral("windowTitle"),
+                                 .arg(stringXml("windowTitle",
                                                 QStringLiteral("title%1 ").arg(i)
                                                         + word(random.generate())));
             }
-            inner += numberXml(QStringLiteral("currentIndex"), int(random.bounded(entries)));
+            inner += numberXml("currentIndex", int(random.bounded(entries)));
         } else if (className == QLatin1String("VoCc::MatrixPopButtons")) {
-            inner += numberXml(QStringLiteral("row"), 2) + numberXml(QStringLiteral("column"), 2);
+            inner += numberXml("row", 2) + numberXml("column", 2);
             inner += QStringLiteral("<property name=\"textList\"><stringlist>");
             for (int i = 0; i < entries; ++i)
                 inner += QStringLiteral("<string>%1</string>")
@@ -180,8 +179,7 @@ QString startingForm(const MutatedForm &form)
         } else {
             const bool matrix = className.startsWith(QLatin1String("VoCc::Matrix"));
             if (matrix)
-                inner += numberXml(QStringLiteral("row"), 2)
-                        + numberXml(QStringLiteral("column"), 2);
+                inner += numberXml("row", 2) + numberXml("column", 2);
             for (int i = 0; i < entries; ++i) {
                 QString item;
                 if (className == QLatin1String("VoCc::ComboBox"))
@@ -220,12 +218,15 @@ QVector<QDomElement> ourWidgets(const QDomDocument &document, bool pages)
     return widgets;
 }
 
-QVector<QDomElement> descendants(const QDomElement &root, const QString &tag)
+// The elements of that tag inside any of roots.
+QVector<QDomElement> descendants(const QVector<QDomElement> &roots, const char *tag)
 {
     QVector<QDomElement> found;
-    const QDomNodeList all = root.elementsByTagName(tag);
-    for (int i = 0; i < all.size(); ++i)
-        found.append(all.at(i).toElement());
+    for (const QDomElement &root : roots) {
+        const QDomNodeList all = root.elementsByTagName(QLatin1String(tag));
+        for (int i = 0; i < all.size(); ++i)
+            found.append(all.at(i).toElement());
+    }
     return found;
 }
 
@@ -235,7 +236,7 @@ QVector<QDomElement> listProperties(const QDomDocument &document)
 {
     QVector<QDomElement> found;
     for (const QDomElement &widget : ourWidgets(document, true)) {
-        for (const QDomElement &property : descendants(widget, QStringLiteral("property"))) {
+        for (const QDomElement &property : descendants({widget}, "property")) {
             const QString name = property.attribute(QStringLiteral("name"));
             if (property.parentNode().nodeName() == QLatin1String("item")
                 || name == QLatin1String("textList") || name == QLatin1String("windowTitle"))
@@ -303,7 +304,7 @@ void mutate(QDomDocument &document, const Mutation &m)
                 ? QStringLiteral("<string>%1</string>").arg(number)
                 : QStringLiteral("<number>%1</number>").arg(number);
         QDomElement property;
-        for (const QDomElement &p : descendants(widget, QStringLiteral("property"))) {
+        for (const QDomElement &p : descendants({widget}, "property")) {
             if (p.parentNode() == widget && p.attribute(QStringLiteral("name")) == name)
                 property = p;
         }
@@ -319,7 +320,7 @@ void mutate(QDomDocument &document, const Mutation &m)
     case Twice: {
         QVector<QDomElement> properties = listProperties(document);
         for (const QDomElement &widget : widgets) {
-            for (const QDomElement &p : descendants(widget, QStringLiteral("property"))) {
+            for (const QDomElement &p : descendants({widget}, "property")) {
                 const QString name = p.attribute(QStringLiteral("name"));
                 if (p.parentNode() == widget && name != QLatin1String("geometry"))
                     properties.append(p);
@@ -330,9 +331,9 @@ void mutate(QDomDocument &document, const Mutation &m)
         QDomElement original = pick(properties, m.a);
         QDomElement copy = original.cloneNode(true).toElement();
         // The copy holds other values, so that either one can be missed.
-        for (QDomElement leaf : descendants(copy, QStringLiteral("string")))
+        for (QDomElement leaf : descendants({copy}, "string"))
             leaf.firstChild().setNodeValue(leaf.text() + QStringLiteral(" again"));
-        for (QDomElement leaf : descendants(copy, QStringLiteral("number"))) {
+        for (QDomElement leaf : descendants({copy}, "number")) {
             if (leaf.firstChild().isText())
                 leaf.firstChild().setNodeValue(QString::number(1 + m.b % 3));
         }
@@ -340,9 +341,7 @@ void mutate(QDomDocument &document, const Mutation &m)
         break;
     }
     case NestedItem: {
-        QVector<QDomElement> items;
-        for (const QDomElement &widget : widgets)
-            items += descendants(widget, QStringLiteral("item"));
+        const QVector<QDomElement> items = descendants(widgets, "item");
         if (items.isEmpty())
             return;
         QDomElement outer = pick(items, m.a);
@@ -350,14 +349,13 @@ void mutate(QDomDocument &document, const Mutation &m)
                 ? pick(items, m.b).cloneNode(true).toElement()
                 : element(document,
                           QStringLiteral("<item>%1</item>")
-                                  .arg(stringXml(QStringLiteral("text"),
-                                                 QStringLiteral("inner ") + word(m.b))));
+                                  .arg(stringXml("text", QStringLiteral("inner ") + word(m.b))));
         outer.appendChild(inner);
         break;
     }
     case UnknownProperty: {
         QDomElement target = pick(widgets, m.a);
-        const QVector<QDomElement> items = descendants(target, QStringLiteral("item"));
+        const QVector<QDomElement> items = descendants({target}, "item");
         if (m.c % 2 && !items.isEmpty())
             target = pick(items, m.b);
         target.appendChild(element(document,
@@ -369,13 +367,9 @@ void mutate(QDomDocument &document, const Mutation &m)
         // Qt's reader refuses a form with an attribute it does not know on an element it
         // reads attributes of (with a reason); the strings of a string list it reads as plain
         // texts. Mostly the latter, so that most such forms get further than the reader.
-        QVector<QDomElement> targets;
-        for (const QDomElement &widget : widgets) {
-            for (const QDomElement &list : descendants(widget, QStringLiteral("stringlist")))
-                targets += descendants(list, QStringLiteral("string"));
-        }
+        QVector<QDomElement> targets = descendants(descendants(widgets, "stringlist"), "string");
         if (m.c % 8 == 0)
-            targets = descendants(pick(widgets, m.a), QStringLiteral("string"));
+            targets = descendants({pick(widgets, m.a)}, "string");
         if (targets.isEmpty())
             return;
         QDomElement target = pick(targets, m.b);
@@ -394,10 +388,8 @@ void mutate(QDomDocument &document, const Mutation &m)
     }
     case Marks: {
         QVector<QDomElement> strings;
-        for (const QDomElement &property : listProperties(document)) {
-            strings += descendants(property, QStringLiteral("string"));
-            strings += descendants(property, QStringLiteral("stringlist"));
-        }
+        for (const QDomElement &property : listProperties(document))
+            strings += descendants({property}, "string") + descendants({property}, "stringlist");
         if (strings.isEmpty())
             return;
         QDomElement target = pick(strings, m.a);
@@ -415,18 +407,17 @@ void mutate(QDomDocument &document, const Mutation &m)
         QVector<QDomElement> items;
         for (const QDomElement &widget : widgets) {
             if (widget.attribute(QStringLiteral("class")) != QLatin1String("VoCc::ComboBox"))
-                items += descendants(widget, QStringLiteral("item"));
+                items += descendants({widget}, "item");
         }
         if (items.isEmpty())
             return;
         QDomElement item = pick(items, m.a);
-        for (QDomElement property : descendants(item, QStringLiteral("property"))) {
+        for (QDomElement property : descendants({item}, "property")) {
             if (property.attribute(QStringLiteral("name")) == QLatin1String("icon"))
                 item.removeChild(property);
         }
         item.appendChild(
-                element(document,
-                        stringXml(QStringLiteral("icon"), oddPaths->all().at(int(m.b % 4)), true)));
+                element(document, stringXml("icon", oddPaths->all().at(int(m.b % 4)), true)));
         break;
     }
     default:
@@ -551,19 +542,18 @@ QString problemsOf(const char *road, const QByteArray &input, const RoundTrip &t
 
 QString runForm(const MutatedForm &form)
 {
-    const QByteArray command = QStringLiteral("%1\n(%2)\n")
-                                       .arg(rerunCommand(form), describe(form))
-                                       .toLocal8Bit();
+    const QByteArray command =
+            QStringLiteral("%1\n(%2)\n").arg(rerunCommand(form), describe(form)).toLocal8Bit();
     qstrncpy(rerun, command.constData(), sizeof rerun);
     alarm(formSeconds);
     const QByteArray input = mutatedText(form);
     oddPaths->pipe.forget();
     // The roads in this order: the pipe is looked at after both.
-    QStringList problems = {
-            problemsOf("Designer", input, throughDesigner(input)),
-            problemsOf("VoCc::FormBuilder", input, throughFormBuilder(input)),
-            oddPaths->pipe.wasOpened() ? QStringLiteral("an icon path naming a FIFO was opened")
-                                       : QString()};
+    QStringList problems = {problemsOf("Designer", input, throughDesigner(input)),
+                            problemsOf("VoCc::FormBuilder", input, throughFormBuilder(input)),
+                            oddPaths->pipe.wasOpened()
+                                    ? QStringLiteral("an icon path naming a FIFO was opened")
+                                    : QString()};
     alarm(0);
     problems.removeAll(QString());
     return problems.join(QLatin1Char('\n'));
@@ -719,12 +709,11 @@ private slots:
             const QString broken = runForm(form);
             if (!broken.isEmpty()) {
                 const MutatedForm small = shrink(form);
-                QFAIL(qPrintable(QStringLiteral("%1\nRun it again with: %2\nshrunk to %3\n%4\n%5")
-                                         .arg(broken, rerunCommand(form), describe(small),
-                                              runForm(small),
-                                              QString::fromUtf8(mutatedText(MutatedForm {
-                                                      small.seed, small.families, 0,
-                                                      small.mutations})))));
+                QFAIL(qPrintable(
+                        QStringLiteral("%1\nRun it again with: %2\nshrunk to %3\n%4\n%5")
+                                .arg(broken, rerunCommand(form), describe(small), runForm(small),
+                                     QString::fromUtf8(mutatedText(MutatedForm {
+                                             small.seed, small.families, 0, small.mutations})))));
             }
         }
         // Printed whatever QtTest's limit on messages: the suite's time is a figure to watch.
