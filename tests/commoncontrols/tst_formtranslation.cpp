@@ -1,6 +1,7 @@
 // Forms translated by VoCc::FormBuilder: Qt's lupdate reads the example form and a form of Qt's
 // own widgets, each message gets a translation, lrelease makes the .qm files, and the loaded
-// forms show every text translated, at load and again on a language change.
+// forms show every text translated, at load and again on a language change. The preview tool
+// renders the example form plain and with one of these translations.
 #include "linguistmessages.h"
 
 #include <nui/CommonControls/CcCheckableTextComboBox.hpp>
@@ -10,8 +11,8 @@
 #include <nui/CommonControls/CcMatrixPopButtons.hpp>
 #include <nui/CommonControls/template/CcAbstractOptions.hpp>
 
-#include <QtWidgets>
 #include <QtTest>
+#include <QtWidgets>
 
 using namespace VoCc;
 using CcTest::Message;
@@ -171,7 +172,7 @@ private slots:
         QVERIFY(m_folder.isValid());
         const QString ts = m_folder.filePath(QStringLiteral("forms.ts"));
         QString failure = CcTest::runTool(QStringLiteral(CC_LUPDATE),
-                                  {exampleForm, qtWidgetsForm, QStringLiteral("-ts"), ts});
+                                          {exampleForm, qtWidgetsForm, QStringLiteral("-ts"), ts});
         QVERIFY2(failure.isEmpty(), qPrintable(failure));
         m_messages = CcTest::tsMessages(ts);
         QVERIFY(m_messages.size() > 100);
@@ -200,8 +201,8 @@ private slots:
             out.write(filled.toUtf8());
             out.close();
             failure = CcTest::runTool(QStringLiteral(CC_LRELEASE),
-                              {base + QStringLiteral(".ts"), QStringLiteral("-qm"),
-                               base + QStringLiteral(".qm")});
+                                      {base + QStringLiteral(".ts"), QStringLiteral("-qm"),
+                                       base + QStringLiteral(".qm")});
             QVERIFY2(failure.isEmpty(), qPrintable(failure));
             QVERIFY(translation.translator->load(base + QStringLiteral(".qm")));
         }
@@ -352,7 +353,45 @@ private slots:
         QCoreApplication::removeTranslator(&recorder);
     }
 
+    // The preview tool renders the example form whole: big enough, and with the many colours of
+    // real widgets rather than a blank area.
+    void previewShowsTheWholeForm()
+    {
+        const QImage image = preview({});
+        QVERIFY2(image.width() >= 800 && image.height() >= 500,
+                 qPrintable(QStringLiteral("%1 x %2").arg(image.width()).arg(image.height())));
+        QSet<QRgb> colours;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x)
+                colours.insert(image.pixel(x, y));
+        }
+        QVERIFY2(colours.size() >= 200, qPrintable(QString::number(colours.size())));
+    }
+
+    // With a translation the preview tool renders the form translated.
+    void previewTranslated()
+    {
+        const QImage plain = preview({});
+        const QImage translated = preview(
+                {QStringLiteral("--translation"), m_folder.filePath(QStringLiteral("first.qm"))});
+        QVERIFY(!plain.isNull());
+        QVERIFY(!translated.isNull());
+        QVERIFY(translated != plain);
+    }
+
 private:
+    // The example form as ccpreview renders it with the options given.
+    QImage preview(const QStringList &options)
+    {
+        const QString image = m_folder.filePath(QStringLiteral("preview.png"));
+        QFile::remove(image);
+        const QString failure = CcTest::runTool(QStringLiteral(CC_PREVIEW),
+                                                options + QStringList({exampleForm, image}));
+        if (!failure.isEmpty())
+            qWarning("%s", qPrintable(failure));
+        return QImage(image);
+    }
+
     static QWidget *load(const QString &fileName, bool translate, bool follow)
     {
         QFile file(fileName);
