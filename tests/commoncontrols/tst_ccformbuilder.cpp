@@ -346,10 +346,9 @@ private slots:
     void limitsGridsNoEditorMakes_data()
     {
         QTest::addColumn<QString>("className");
-        QTest::newRow("push buttons") << QStringLiteral("VoCc::MatrixPushButtons");
-        QTest::newRow("radio buttons") << QStringLiteral("VoCc::MatrixRadioButtons");
-        QTest::newRow("check boxes") << QStringLiteral("VoCc::MatrixCheckBoxes");
-        QTest::newRow("pop buttons") << QStringLiteral("VoCc::MatrixPopButtons");
+        for (const char *className : {"VoCc::MatrixPushButtons", "VoCc::MatrixRadioButtons",
+                                      "VoCc::MatrixCheckBoxes", "VoCc::MatrixPopButtons"})
+            QTest::newRow(className) << QString::fromLatin1(className);
     }
 
     void limitsGridsNoEditorMakes()
