@@ -9,14 +9,8 @@
 
 #include <QtDesigner/private/ui4_p.h>
 
-#include <QAbstractItemView>
-#include <QBuffer>
-#include <QFile>
-#include <QRegularExpression>
-#include <QScopedPointer>
-#include <QTest>
-#include <QXmlStreamReader>
-#include <QXmlStreamWriter>
+#include <QtWidgets>
+#include <QtTest>
 
 using namespace VoCc;
 using namespace CcTest;
@@ -352,10 +346,9 @@ private slots:
     void limitsGridsNoEditorMakes_data()
     {
         QTest::addColumn<QString>("className");
-        QTest::newRow("push buttons") << QStringLiteral("VoCc::MatrixPushButtons");
-        QTest::newRow("radio buttons") << QStringLiteral("VoCc::MatrixRadioButtons");
-        QTest::newRow("check boxes") << QStringLiteral("VoCc::MatrixCheckBoxes");
-        QTest::newRow("pop buttons") << QStringLiteral("VoCc::MatrixPopButtons");
+        for (const char *className : {"VoCc::MatrixPushButtons", "VoCc::MatrixRadioButtons",
+                                      "VoCc::MatrixCheckBoxes", "VoCc::MatrixPopButtons"})
+            QTest::newRow(className) << QString::fromLatin1(className);
     }
 
     void limitsGridsNoEditorMakes()

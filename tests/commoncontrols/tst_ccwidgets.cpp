@@ -11,15 +11,8 @@
 #include <nui/CommonControls/template/CcOptionComboBox.hpp>
 #include <nui/CommonControls/template/CcOptionRadios.hpp>
 
-#include <QAbstractButton>
-#include <QAction>
-#include <QCheckBox>
-#include <QComboBox>
-#include <QLabel>
-#include <QMenu>
-#include <QSignalSpy>
-#include <QTest>
-#include <QToolButton>
+#include <QtWidgets>
+#include <QtTest>
 
 using namespace VoCc;
 

@@ -1,6 +1,9 @@
 // Forms translated by VoCc::FormBuilder: Qt's lupdate reads the example form and a form of Qt's
 // own widgets, each message gets a translation, lrelease makes the .qm files, and the loaded
-// forms show every text translated, at load and again on a language change.
+// forms show every text translated, at load and again on a language change. The preview tool
+// renders the example form plain and with one of these translations.
+#include "linguistmessages.h"
+
 #include <nui/CommonControls/CcCheckableTextComboBox.hpp>
 #include <nui/CommonControls/CcFormBuilder.hpp>
 #include <nui/CommonControls/CcLineEditEx.hpp>
@@ -8,23 +11,11 @@
 #include <nui/CommonControls/CcMatrixPopButtons.hpp>
 #include <nui/CommonControls/template/CcAbstractOptions.hpp>
 
-#include <QAbstractItemView>
-#include <QApplication>
-#include <QComboBox>
-#include <QFile>
-#include <QMetaProperty>
-#include <QProcess>
-#include <QRegularExpression>
-#include <QScopedPointer>
-#include <QSet>
-#include <QTabBar>
-#include <QTemporaryDir>
-#include <QTest>
-#include <QToolBox>
-#include <QTranslator>
-#include <QXmlStreamReader>
+#include <QtTest>
+#include <QtWidgets>
 
 using namespace VoCc;
+using CcTest::Message;
 
 namespace {
 
@@ -34,49 +25,6 @@ const QString qtWidgetsForm = QStringLiteral(CC_QT_WIDGETS_FORM);
 // The two translations every message gets.
 QString first(const QString &source) { return QStringLiteral("«%1»").arg(source); }
 QString second(const QString &source) { return QStringLiteral("‹%1›").arg(source); }
-
-// A message of a .ts file: the form class it belongs to, its text and its comment.
-struct Message
-{
-    QString context;
-    QString source;
-    QString comment;
-    bool operator==(const Message &other) const
-    {
-        return context == other.context && source == other.source && comment == other.comment;
-    }
-};
-using HashValue = decltype(::qHash(QString()));
-HashValue qHash(const Message &message, HashValue seed = 0)
-{
-    return ::qHash(message.context + QLatin1Char('\n') + message.source + QLatin1Char('\n')
-                           + message.comment,
-                   seed);
-}
-
-QVector<Message> readMessages(const QString &tsFile)
-{
-    QFile file(tsFile);
-    if (!file.open(QIODevice::ReadOnly))
-        return {};
-    QXmlStreamReader reader(&file);
-    QVector<Message> messages;
-    QString context;
-    while (!reader.atEnd()) {
-        reader.readNext();
-        if (!reader.isStartElement())
-            continue;
-        if (reader.name() == QLatin1String("name"))
-            context = reader.readElementText();
-        else if (reader.name() == QLatin1String("message"))
-            messages.append({context, QString(), QString()});
-        else if (reader.name() == QLatin1String("source"))
-            messages.last().source = reader.readElementText();
-        else if (reader.name() == QLatin1String("comment"))
-            messages.last().comment = reader.readElementText();
-    }
-    return messages;
-}
 
 // The texts a form marks notr="true", single strings and string lists alike.
 QSet<QString> untranslatedTexts(const QString &form)
@@ -100,18 +48,6 @@ QSet<QString> untranslatedTexts(const QString &form)
             texts.insert(reader.readElementText());
     }
     return texts;
-}
-
-QString runTool(const QString &program, const QStringList &arguments)
-{
-    QProcess process;
-    process.start(program, arguments);
-    if (!process.waitForFinished(60000) || process.exitStatus() != QProcess::NormalExit
-        || process.exitCode() != 0)
-        return QStringLiteral("%1 %2 failed: %3")
-                .arg(program, arguments.join(QLatin1Char(' ')),
-                     QString::fromLocal8Bit(process.readAllStandardError()));
-    return QString();
 }
 
 void addProperties(const QObject *object, QStringList &texts)
@@ -222,21 +158,6 @@ QStringList describe(const QSet<Message> &messages)
     return texts;
 }
 
-// Records what it is asked to translate, and translates nothing.
-class RecordingTranslator : public QTranslator
-{
-public:
-    QString translate(const char *context, const char *sourceText, const char *disambiguation,
-                      int n) const override
-    {
-        Q_UNUSED(n)
-        asked.append({QString::fromUtf8(context), QString::fromUtf8(sourceText),
-                      QString::fromUtf8(disambiguation)});
-        return QString();
-    }
-    mutable QVector<Message> asked;
-};
-
 } // namespace
 
 class TestFormTranslation : public QObject
@@ -250,10 +171,10 @@ private slots:
         // translated twice over, and lrelease makes a .qm of each translation.
         QVERIFY(m_folder.isValid());
         const QString ts = m_folder.filePath(QStringLiteral("forms.ts"));
-        QString failure = runTool(QStringLiteral(CC_LUPDATE),
-                                  {exampleForm, qtWidgetsForm, QStringLiteral("-ts"), ts});
+        QString failure = CcTest::runTool(QStringLiteral(CC_LUPDATE),
+                                          {exampleForm, qtWidgetsForm, QStringLiteral("-ts"), ts});
         QVERIFY2(failure.isEmpty(), qPrintable(failure));
-        m_messages = readMessages(ts);
+        m_messages = CcTest::tsMessages(ts);
         QVERIFY(m_messages.size() > 100);
 
         QFile file(ts);
@@ -279,9 +200,9 @@ private slots:
             QVERIFY(out.open(QIODevice::WriteOnly));
             out.write(filled.toUtf8());
             out.close();
-            failure = runTool(QStringLiteral(CC_LRELEASE),
-                              {base + QStringLiteral(".ts"), QStringLiteral("-qm"),
-                               base + QStringLiteral(".qm")});
+            failure = CcTest::runTool(QStringLiteral(CC_LRELEASE),
+                                      {base + QStringLiteral(".ts"), QStringLiteral("-qm"),
+                                       base + QStringLiteral(".qm")});
             QVERIFY2(failure.isEmpty(), qPrintable(failure));
             QVERIFY(translation.translator->load(base + QStringLiteral(".qm")));
         }
@@ -407,7 +328,7 @@ private slots:
         QVERIFY(untranslated.contains(QStringLiteral("Iso")));
         QVERIFY(untranslated.contains(QStringLiteral("fileOpen")));
 
-        RecordingTranslator recorder;
+        CcTest::RecordingTranslator recorder;
         QCoreApplication::installTranslator(&recorder);
         QScopedPointer<QWidget> example(load(exampleForm, true, true));
         QScopedPointer<QWidget> qtWidgets(load(qtWidgetsForm, true, true));
@@ -432,7 +353,45 @@ private slots:
         QCoreApplication::removeTranslator(&recorder);
     }
 
+    // The preview tool renders the example form whole: big enough, and with the many colours of
+    // real widgets rather than a blank area.
+    void previewShowsTheWholeForm()
+    {
+        const QImage image = preview({});
+        QVERIFY2(image.width() >= 800 && image.height() >= 500,
+                 qPrintable(QStringLiteral("%1 x %2").arg(image.width()).arg(image.height())));
+        QSet<QRgb> colours;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x)
+                colours.insert(image.pixel(x, y));
+        }
+        QVERIFY2(colours.size() >= 200, qPrintable(QString::number(colours.size())));
+    }
+
+    // With a translation the preview tool renders the form translated.
+    void previewTranslated()
+    {
+        const QImage plain = preview({});
+        const QImage translated = preview(
+                {QStringLiteral("--translation"), m_folder.filePath(QStringLiteral("first.qm"))});
+        QVERIFY(!plain.isNull());
+        QVERIFY(!translated.isNull());
+        QVERIFY(translated != plain);
+    }
+
 private:
+    // The example form as ccpreview renders it with the options given.
+    QImage preview(const QStringList &options)
+    {
+        const QString image = m_folder.filePath(QStringLiteral("preview.png"));
+        QFile::remove(image);
+        const QString failure = CcTest::runTool(QStringLiteral(CC_PREVIEW),
+                                                options + QStringList({exampleForm, image}));
+        if (!failure.isEmpty())
+            qWarning("%s", qPrintable(failure));
+        return QImage(image);
+    }
+
     static QWidget *load(const QString &fileName, bool translate, bool follow)
     {
         QFile file(fileName);

@@ -11,13 +11,7 @@
 
 #include <nui/CommonControls/CcDrawbackBoxGroup.hpp>
 
-#include <QDesignerContainerExtension>
-#include <QDesignerFormEditorInterface>
-#include <QDesignerFormWindowCursorInterface>
-#include <QDesignerFormWindowInterface>
-#include <QExtensionManager>
-#include <QToolButton>
-#include <QUndoStack>
+#include <QtDesigner>
 
 using namespace CcTest;
 using Driver = ItemDialogDriver;
@@ -53,6 +47,7 @@ struct PageEdit
     void (*work)(Driver &);
     QStringList titles; // after the edit
     QVector<int> kept; // the original pages the group keeps, in its new order; -1 a new page
+    int pushes; // steps added to the undo history
 };
 
 const PageEdit pageEdits[] = {
@@ -64,7 +59,8 @@ const PageEdit pageEdits[] = {
              d.addRow(QStringLiteral("N"));
          },
          {"A", "B", "N"},
-         {0, 1, -1}},
+         {0, 1, -1},
+         1},
         {"delete middle, New",
          [](Driver &d) {
              d.select(1);
@@ -73,7 +69,8 @@ const PageEdit pageEdits[] = {
              d.addRow(QStringLiteral("N"));
          },
          {"A", "C", "N"},
-         {0, 2, -1}},
+         {0, 2, -1},
+         1},
         {"New, delete, New",
          [](Driver &d) {
              d.select(2);
@@ -84,7 +81,8 @@ const PageEdit pageEdits[] = {
              d.addRow(QStringLiteral("N2"));
          },
          {"A", "B", "N1", "N2"},
-         {0, 1, -1, -1}},
+         {0, 1, -1, -1},
+         1},
         {"delete last two, New, New",
          [](Driver &d) {
              d.select(2);
@@ -96,7 +94,29 @@ const PageEdit pageEdits[] = {
              d.addRow(QStringLiteral("N2"));
          },
          {"A", "N1", "N2"},
-         {0, -1, -1}},
+         {0, -1, -1},
+         1},
+        {"move up, New, New",
+         [](Driver &d) {
+             d.select(2);
+             d.click("moveListItemUpButton");
+             d.addRow(QStringLiteral("N1"));
+             d.addRow(QStringLiteral("N2"));
+         },
+         {"A", "C", "N1", "N2", "B"},
+         {0, 2, -1, -1, 1},
+         1},
+        {"moves and a New that cancel out",
+         [](Driver &d) {
+             d.select(1);
+             d.click("moveListItemUpButton");
+             d.click("moveListItemDownButton");
+             d.addRow(QStringLiteral("Gone"));
+             d.click("deleteListItemButton");
+         },
+         {"A", "B", "C"},
+         {0, 1, 2},
+         0},
 };
 
 // A page's header on the form: the title bar of its box.
@@ -170,8 +190,10 @@ private slots:
             QTest::newRow(pageEdits[i].name) << i;
     }
 
-    // A new row is a new, empty page, never a page deleted in the same edit; the deleted
-    // pages leave the group and come back with Undo.
+    // A new row is a new, empty page with a name of its own, never a page deleted in the same
+    // edit; moved pages stay the same objects; the deleted pages leave the group and come back
+    // with Undo. A change leaves the group on its last page; an edit that changes nothing
+    // pushes nothing and makes no box.
     void newRowsMakeNewPages()
     {
         QFETCH(int, index);
@@ -182,10 +204,20 @@ private slots:
         QVERIFY(group);
         const QWidgetList original = pagesOf(group);
         QCOMPARE(original.size(), 3);
+        const int boxes = group->findChildren<VoCc::DrawbackBox *>().size();
 
         QCOMPARE(edit(group, pageEdit.work), QString());
         QCOMPARE(titlesOf(group), pageEdit.titles);
+        QCOMPARE(form->commandHistory()->count(), pageEdit.pushes);
+        if (pageEdit.pushes)
+            QCOMPARE(group->currentIndex(), pageEdit.titles.size() - 1);
+        else
+            QCOMPARE(group->findChildren<VoCc::DrawbackBox *>().size(), boxes);
         const QWidgetList edited = pagesOf(group);
+        QStringList names;
+        for (const QWidget *page : edited)
+            names << page->objectName();
+        QCOMPARE(QSet<QString>(names.cbegin(), names.cend()).size(), names.size());
         QCOMPARE(edited.size(), pageEdit.kept.size());
         QWidgetList newPages;
         for (int i = 0; i < edited.size(); ++i) {
@@ -198,6 +230,7 @@ private slots:
             QVERIFY2(!original.contains(page), qPrintable(page->objectName()));
             QVERIFY2(!newPages.contains(page), qPrintable(page->objectName()));
             QVERIFY2(page->findChildren<QWidget *>().isEmpty(), qPrintable(page->objectName()));
+            QVERIFY(page->objectName().startsWith(QLatin1String("page")));
             newPages << page;
         }
         for (int i = 0; i < original.size(); ++i) {
@@ -207,6 +240,7 @@ private slots:
 
         form->commandHistory()->undo();
         QCOMPARE(pagesOf(group), original);
+        QCOMPARE(group->currentIndex(), pageEdit.pushes ? 2 : 0);
         QCOMPARE(titlesOf(group), QStringList({"A", "B", "C"}));
         form->commandHistory()->redo();
         QCOMPARE(pagesOf(group), edited);

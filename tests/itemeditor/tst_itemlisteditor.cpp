@@ -2,6 +2,7 @@
 
 #include "designertestcore.h"
 #include "itemeditortestsupport.h"
+#include "linguistmessages.h"
 
 #include "itemlisteditor.h"
 #include "itempropertybrowser.h"
@@ -9,13 +10,7 @@
 
 #include <QtDesigner/private/formwindowbase_p.h>
 
-#include <QDesignerFormWindowInterface>
-#include <QListWidget>
-#include <QPushButton>
-#include <QScrollBar>
-#include <QSignalSpy>
-#include <QToolButton>
-#include <QTranslator>
+#include <QtDesigner>
 #include <QtTest>
 
 using namespace qdesigner_internal;
@@ -23,19 +18,6 @@ using CcTest::openEditor;
 using CcTest::stringOf;
 
 namespace {
-
-// Answers every translation request with nothing, and remembers "context|source".
-class RecordingTranslator : public QTranslator
-{
-public:
-    QString translate(const char *context, const char *sourceText, const char *, int) const override
-    {
-        seen.insert(QLatin1String(context) + QLatin1Char('|') + QLatin1String(sourceText));
-        return QString();
-    }
-    bool isEmpty() const override { return false; }
-    mutable QSet<QString> seen;
-};
 
 int freshItemFlags() { return int(QListWidgetItem().flags()); }
 
@@ -83,7 +65,7 @@ private slots:
 
     void formTextsAndPaneToggle()
     {
-        RecordingTranslator translator;
+        CcTest::RecordingTranslator translator;
         QCoreApplication::installTranslator(&translator);
         ItemListEditor editor(m_form, nullptr);
         QCOMPARE(editor.objectName(), QStringLiteral("qdesigner_internal__ItemListEditor"));
@@ -105,7 +87,8 @@ private slots:
 
         // The list and each button show a text, looked up in the editor's context (the pane's
         // own, sized to a text of its context); the tool buttons have icons.
-        QStringList shown = {QStringLiteral("ItemPropertyBrowser|XX Icon Selected off")};
+        const QString context = QStringLiteral("qdesigner_internal::ItemListEditor");
+        QVector<CcTest::Message> shown = {{"ItemPropertyBrowser", "XX Icon Selected off"}};
         for (QWidget *widget : editor.findChildren<QWidget *>()) {
             auto *button = qobject_cast<QAbstractButton *>(widget);
             if (!button && widget != editor.listWidget())
@@ -115,11 +98,11 @@ private slots:
             QVERIFY2(!(texts[0] + texts[1]).isEmpty(), qPrintable(widget->objectName()));
             for (const QString &text : texts) {
                 if (!text.isEmpty())
-                    shown << QStringLiteral("qdesigner_internal::ItemListEditor|") + text;
+                    shown.append(CcTest::Message(context, text));
             }
         }
-        for (const QString &text : qAsConst(shown))
-            QVERIFY2(translator.seen.contains(text), qPrintable(text));
+        for (const CcTest::Message &text : qAsConst(shown))
+            QVERIFY2(translator.asked.contains(text), qPrintable(text.source));
     }
 
     void propertyTableBecomesProperties()

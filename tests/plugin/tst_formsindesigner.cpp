@@ -10,8 +10,7 @@
 #include "uixml.h"
 #include "warninglog.h"
 
-#include <QDesignerFormWindowInterface>
-#include <QFile>
+#include <QtDesigner>
 #include <QtTest>
 
 namespace {
@@ -29,15 +28,11 @@ void oddForm(const char *row, const char *className, const QString &inner, const
                        << QString(warning);
 }
 
-// A string marked as a form author marks one for translation.
-QString markedString(const char *text, const char *attributes)
-{
-    return QStringLiteral("<string %1>%2</string>").arg(QLatin1String(attributes), QLatin1String(text));
-}
+// A string property marked as a form author marks one for translation.
 QString markedProperty(const char *name, const char *text, const char *attributes)
 {
-    return QStringLiteral("<property name=\"%1\">%2</property>")
-            .arg(QLatin1String(name), markedString(text, attributes));
+    return QStringLiteral("<property name=\"%1\"><string %2>%3</string></property>")
+            .arg(QLatin1String(name), QLatin1String(attributes), QLatin1String(text));
 }
 
 // Every list family with texts and tool tips marked every way the format allows: a

@@ -12,18 +12,9 @@
 #include <nui/CommonControls/CcDrawbackBoxGroup.hpp>
 #include <nui/CommonControls/CcMatrixButtons.hpp>
 
-#include <QDesignerFormEditorInterface>
-#include <QDesignerFormWindowCursorInterface>
-#include <QDesignerFormWindowInterface>
-#include <QElapsedTimer>
-#include <QExtensionManager>
-#include <QMutex>
-#include <QPluginLoader>
-#include <QSpinBox>
-#include <QUndoStack>
-#include <QtCore/private/qhooks_p.h>
+#include <QtDesigner>
 #include <QtTest>
-#include <QtUiPlugin/QDesignerCustomWidgetCollectionInterface>
+#include <QtCore/private/qhooks_p.h>
 
 #include <dlfcn.h>
 

@@ -18,18 +18,10 @@
 #include "pipeprobe.h"
 #include "testpictures.h"
 
-#include <QDomDocument>
-#include <QElapsedTimer>
-#include <QRandomGenerator>
-#include <QTemporaryDir>
 #include <QtTest>
+#include <QtXml>
 
-#include <atomic>
-#include <chrono>
-#include <condition_variable>
 #include <csignal>
-#include <mutex>
-#include <thread>
 
 #include <unistd.h>
 
@@ -150,33 +142,32 @@ QString startingForm(const MutatedForm &form)
                                       "extracomment=\"e%1\">%2</string></property>")
                         .arg(i)
                         .arg(escaped(t));
-            return stringXml(QStringLiteral("text"), t);
+            return stringXml("text", t);
         };
         const auto icon = [&](int i) {
-            return stringXml(QStringLiteral("icon"),
-                             i == 0 ? pictureFile : QStringLiteral("icons/i%1.png").arg(i), true);
+            return stringXml("icon", i == 0 ? pictureFile : QStringLiteral("icons/i%1.png").arg(i),
+                             true);
         };
         const auto tip = [&](int i) {
-            return stringXml(QStringLiteral("toolTip"),
-                             QStringLiteral("tip%1 ").arg(i) + word(random.generate()));
+            return stringXml("toolTip", QStringLiteral("tip%1 ").arg(i) + word(random.generate()));
         };
         const auto data = [&](int i) {
-            return stringXml(QStringLiteral("data"), QStringLiteral("d%1").arg(i), true);
+            return stringXml("data", QStringLiteral("d%1").arg(i), true);
         };
         const auto action = [&](int i) {
-            return stringXml(QStringLiteral("action"), QStringLiteral("act%1").arg(i), true);
+            return stringXml("action", QStringLiteral("act%1").arg(i), true);
         };
         if (className == QLatin1String("VoCc::DrawbackBoxGroup")) {
             for (int i = 0; i < entries; ++i) {
                 inner += QStringLiteral("<widget class=\"QWidget\" name=\"page%1\">%2</widget>")
                                  .arg(i)
-                                 .arg(stringXml(QStringLiteral("windowTitle"),
+                                 .arg(stringXml("windowTitle",
                                                 QStringLiteral("title%1 ").arg(i)
                                                         + word(random.generate())));
             }
-            inner += numberXml(QStringLiteral("currentIndex"), int(random.bounded(entries)));
+            inner += numberXml("currentIndex", int(random.bounded(entries)));
         } else if (className == QLatin1String("VoCc::MatrixPopButtons")) {
-            inner += numberXml(QStringLiteral("row"), 2) + numberXml(QStringLiteral("column"), 2);
+            inner += numberXml("row", 2) + numberXml("column", 2);
             inner += QStringLiteral("<property name=\"textList\"><stringlist>");
             for (int i = 0; i < entries; ++i)
                 inner += QStringLiteral("<string>%1</string>")
@@ -188,8 +179,7 @@ QString startingForm(const MutatedForm &form)
         } else {
             const bool matrix = className.startsWith(QLatin1String("VoCc::Matrix"));
             if (matrix)
-                inner += numberXml(QStringLiteral("row"), 2)
-                        + numberXml(QStringLiteral("column"), 2);
+                inner += numberXml("row", 2) + numberXml("column", 2);
             for (int i = 0; i < entries; ++i) {
                 QString item;
                 if (className == QLatin1String("VoCc::ComboBox"))
@@ -228,12 +218,15 @@ QVector<QDomElement> ourWidgets(const QDomDocument &document, bool pages)
     return widgets;
 }
 
-QVector<QDomElement> descendants(const QDomElement &root, const QString &tag)
+// The elements of that tag inside any of roots.
+QVector<QDomElement> descendants(const QVector<QDomElement> &roots, const char *tag)
 {
     QVector<QDomElement> found;
-    const QDomNodeList all = root.elementsByTagName(tag);
-    for (int i = 0; i < all.size(); ++i)
-        found.append(all.at(i).toElement());
+    for (const QDomElement &root : roots) {
+        const QDomNodeList all = root.elementsByTagName(QLatin1String(tag));
+        for (int i = 0; i < all.size(); ++i)
+            found.append(all.at(i).toElement());
+    }
     return found;
 }
 
@@ -243,7 +236,7 @@ QVector<QDomElement> listProperties(const QDomDocument &document)
 {
     QVector<QDomElement> found;
     for (const QDomElement &widget : ourWidgets(document, true)) {
-        for (const QDomElement &property : descendants(widget, QStringLiteral("property"))) {
+        for (const QDomElement &property : descendants({widget}, "property")) {
             const QString name = property.attribute(QStringLiteral("name"));
             if (property.parentNode().nodeName() == QLatin1String("item")
                 || name == QLatin1String("textList") || name == QLatin1String("windowTitle"))
@@ -311,7 +304,7 @@ void mutate(QDomDocument &document, const Mutation &m)
                 ? QStringLiteral("<string>%1</string>").arg(number)
                 : QStringLiteral("<number>%1</number>").arg(number);
         QDomElement property;
-        for (const QDomElement &p : descendants(widget, QStringLiteral("property"))) {
+        for (const QDomElement &p : descendants({widget}, "property")) {
             if (p.parentNode() == widget && p.attribute(QStringLiteral("name")) == name)
                 property = p;
         }
@@ -327,7 +320,7 @@ void mutate(QDomDocument &document, const Mutation &m)
     case Twice: {
         QVector<QDomElement> properties = listProperties(document);
         for (const QDomElement &widget : widgets) {
-            for (const QDomElement &p : descendants(widget, QStringLiteral("property"))) {
+            for (const QDomElement &p : descendants({widget}, "property")) {
                 const QString name = p.attribute(QStringLiteral("name"));
                 if (p.parentNode() == widget && name != QLatin1String("geometry"))
                     properties.append(p);
@@ -338,9 +331,9 @@ void mutate(QDomDocument &document, const Mutation &m)
         QDomElement original = pick(properties, m.a);
         QDomElement copy = original.cloneNode(true).toElement();
         // The copy holds other values, so that either one can be missed.
-        for (QDomElement leaf : descendants(copy, QStringLiteral("string")))
+        for (QDomElement leaf : descendants({copy}, "string"))
             leaf.firstChild().setNodeValue(leaf.text() + QStringLiteral(" again"));
-        for (QDomElement leaf : descendants(copy, QStringLiteral("number"))) {
+        for (QDomElement leaf : descendants({copy}, "number")) {
             if (leaf.firstChild().isText())
                 leaf.firstChild().setNodeValue(QString::number(1 + m.b % 3));
         }
@@ -348,9 +341,7 @@ void mutate(QDomDocument &document, const Mutation &m)
         break;
     }
     case NestedItem: {
-        QVector<QDomElement> items;
-        for (const QDomElement &widget : widgets)
-            items += descendants(widget, QStringLiteral("item"));
+        const QVector<QDomElement> items = descendants(widgets, "item");
         if (items.isEmpty())
             return;
         QDomElement outer = pick(items, m.a);
@@ -358,14 +349,13 @@ void mutate(QDomDocument &document, const Mutation &m)
                 ? pick(items, m.b).cloneNode(true).toElement()
                 : element(document,
                           QStringLiteral("<item>%1</item>")
-                                  .arg(stringXml(QStringLiteral("text"),
-                                                 QStringLiteral("inner ") + word(m.b))));
+                                  .arg(stringXml("text", QStringLiteral("inner ") + word(m.b))));
         outer.appendChild(inner);
         break;
     }
     case UnknownProperty: {
         QDomElement target = pick(widgets, m.a);
-        const QVector<QDomElement> items = descendants(target, QStringLiteral("item"));
+        const QVector<QDomElement> items = descendants({target}, "item");
         if (m.c % 2 && !items.isEmpty())
             target = pick(items, m.b);
         target.appendChild(element(document,
@@ -377,13 +367,9 @@ void mutate(QDomDocument &document, const Mutation &m)
         // Qt's reader refuses a form with an attribute it does not know on an element it
         // reads attributes of (with a reason); the strings of a string list it reads as plain
         // texts. Mostly the latter, so that most such forms get further than the reader.
-        QVector<QDomElement> targets;
-        for (const QDomElement &widget : widgets) {
-            for (const QDomElement &list : descendants(widget, QStringLiteral("stringlist")))
-                targets += descendants(list, QStringLiteral("string"));
-        }
+        QVector<QDomElement> targets = descendants(descendants(widgets, "stringlist"), "string");
         if (m.c % 8 == 0)
-            targets = descendants(pick(widgets, m.a), QStringLiteral("string"));
+            targets = descendants({pick(widgets, m.a)}, "string");
         if (targets.isEmpty())
             return;
         QDomElement target = pick(targets, m.b);
@@ -402,10 +388,8 @@ void mutate(QDomDocument &document, const Mutation &m)
     }
     case Marks: {
         QVector<QDomElement> strings;
-        for (const QDomElement &property : listProperties(document)) {
-            strings += descendants(property, QStringLiteral("string"));
-            strings += descendants(property, QStringLiteral("stringlist"));
-        }
+        for (const QDomElement &property : listProperties(document))
+            strings += descendants({property}, "string") + descendants({property}, "stringlist");
         if (strings.isEmpty())
             return;
         QDomElement target = pick(strings, m.a);
@@ -423,18 +407,17 @@ void mutate(QDomDocument &document, const Mutation &m)
         QVector<QDomElement> items;
         for (const QDomElement &widget : widgets) {
             if (widget.attribute(QStringLiteral("class")) != QLatin1String("VoCc::ComboBox"))
-                items += descendants(widget, QStringLiteral("item"));
+                items += descendants({widget}, "item");
         }
         if (items.isEmpty())
             return;
         QDomElement item = pick(items, m.a);
-        for (QDomElement property : descendants(item, QStringLiteral("property"))) {
+        for (QDomElement property : descendants({item}, "property")) {
             if (property.attribute(QStringLiteral("name")) == QLatin1String("icon"))
                 item.removeChild(property);
         }
         item.appendChild(
-                element(document,
-                        stringXml(QStringLiteral("icon"), oddPaths->all().at(int(m.b % 4)), true)));
+                element(document, stringXml("icon", oddPaths->all().at(int(m.b % 4)), true)));
         break;
     }
     default:
@@ -493,98 +476,64 @@ MutatedForm generate(quint32 seed)
     return form;
 }
 
-// The per-form limit and the command that runs the form again, reported from a watchdog
-// thread and from the handlers of fatal signals.
-const int formSeconds = 30;
+// The command that runs a form again, printed when the form fails, and by the handler of an
+// alarm (the form took longer than the time limit) or of a fatal signal (it crashed).
+const unsigned formSeconds = 30;
 char rerun[512];
-std::mutex watchMutex;
-std::condition_variable watchWake;
-std::chrono::steady_clock::time_point watchDeadline = std::chrono::steady_clock::time_point::max();
-bool watchStop = false;
 
-void announce(const char *what)
+QString rerunCommand(const MutatedForm &form)
 {
-    const ssize_t a = write(STDERR_FILENO, what, strlen(what));
-    const ssize_t b = write(STDERR_FILENO, rerun, strlen(rerun));
-    Q_UNUSED(a)
-    Q_UNUSED(b)
+    return QStringLiteral("CC_MUTATED_FORMS=1 CC_MUTATION_SEED=%1 QT_QPA_PLATFORM=offscreen %2 "
+                          "mutatedForms")
+            .arg(form.seed)
+            .arg(QCoreApplication::applicationFilePath());
 }
 
 void fatalSignal(int signal)
 {
-    announce("\nA mutated form crashed the loader. Run it again with:\n");
+    const char *what = signal == SIGALRM
+            ? "\nA mutated form took longer than the time limit. Run it again with:\n"
+            : "\nA mutated form crashed the loader. Run it again with:\n";
+    const ssize_t a = write(STDERR_FILENO, what, strlen(what));
+    const ssize_t b = write(STDERR_FILENO, rerun, strlen(rerun));
+    Q_UNUSED(a)
+    Q_UNUSED(b)
+    if (signal == SIGALRM)
+        std::_Exit(3);
     std::signal(signal, SIG_DFL);
     std::raise(signal);
 }
 
-void watch()
-{
-    std::unique_lock<std::mutex> lock(watchMutex);
-    while (!watchStop) {
-        if (watchWake.wait_until(lock, watchDeadline) == std::cv_status::timeout
-            && std::chrono::steady_clock::now() >= watchDeadline) {
-            announce("\nA mutated form took longer than the time limit. Run it again with:\n");
-            std::_Exit(3);
-        }
-    }
-}
-
-void startWatch(const MutatedForm &form)
-{
-    const QByteArray command =
-            QStringLiteral("CC_MUTATED_FORMS=1 CC_MUTATION_SEED=%1 QT_QPA_PLATFORM=offscreen %2 "
-                           "mutatedForms\n(%3)\n")
-                    .arg(form.seed)
-                    .arg(QCoreApplication::applicationFilePath(), describe(form))
-                    .toLocal8Bit();
-    std::lock_guard<std::mutex> lock(watchMutex);
-    qstrncpy(rerun, command.constData(), sizeof rerun);
-    watchDeadline = std::chrono::steady_clock::now() + std::chrono::seconds(formSeconds);
-    watchWake.notify_all();
-}
-
-void stopWatch()
-{
-    std::lock_guard<std::mutex> lock(watchMutex);
-    watchDeadline = std::chrono::steady_clock::time_point::max();
-    watchWake.notify_all();
-}
-
-// What is wrong with one road's result for the input, or an empty text.
 // How many forms each road refused, and how many warnings they raised, in the last run.
 int refusedForms[2] = {};
 int warnings[2] = {};
 
+// What is wrong with one road's result for the input, or an empty text.
 QString problemsOf(const char *road, const QByteArray &input, const RoundTrip &trip)
 {
     const int r = road[0] == 'D' ? 0 : 1;
     refusedForms[r] += trip.loaded ? 0 : 1;
     warnings[r] += int(trip.warnings.size());
     QStringList problems;
-    if (!trip.loaded && qEnvironmentVariableIsSet("CC_MUTATION_REFUSALS"))
-        fprintf(stderr, "refused: %s\n", qPrintable(trip.error));
     if (!trip.loaded) {
+        if (qEnvironmentVariableIsSet("CC_MUTATION_REFUSALS"))
+            fprintf(stderr, "refused: %s\n", qPrintable(trip.error));
+        // The reader's message names a line.
         if (trip.error.trimmed().isEmpty())
             problems << QStringLiteral("refused without a reason");
     } else {
         for (const FormValues::Value &loss :
              FormValues::unexplainedLosses(input, trip.saved, trip.warnings))
             problems << QStringLiteral("lost without a word: ") + FormValues::describe(loss);
-    }
-    // A warning has to say which widget it is about: its class and its name in quotes. (A
-    // form refused is refused with the reader's message, which names a line.)
-    if (!trip.loaded)
-        return problems.isEmpty()
-                ? QString()
-                : QStringLiteral("%1: %2").arg(QLatin1String(road),
-                                               problems.join(QStringLiteral("\n  ")));
-    const QStringList widgets = FormValues::widgetsOf(input) + FormValues::widgetsOf(trip.saved);
-    for (const QString &warning : trip.warnings) {
-        const bool named =
-                std::any_of(widgets.cbegin(), widgets.cend(),
-                            [&](const QString &widget) { return warning.contains(widget); });
-        if (!named)
-            problems << QStringLiteral("a warning that names no widget of the form: ") + warning;
+        // A warning has to say which widget it is about: its class and its name in quotes.
+        const QStringList widgets =
+                FormValues::widgetsOf(input) + FormValues::widgetsOf(trip.saved);
+        for (const QString &warning : trip.warnings) {
+            if (std::none_of(widgets.cbegin(), widgets.cend(),
+                             [&](const QString &widget) { return warning.contains(widget); }))
+                problems << QStringLiteral("a warning that names no widget of the form: ")
+                                + warning;
+        }
     }
     if (problems.isEmpty())
         return QString();
@@ -593,19 +542,20 @@ QString problemsOf(const char *road, const QByteArray &input, const RoundTrip &t
 
 QString runForm(const MutatedForm &form)
 {
-    startWatch(form);
+    const QByteArray command =
+            QStringLiteral("%1\n(%2)\n").arg(rerunCommand(form), describe(form)).toLocal8Bit();
+    qstrncpy(rerun, command.constData(), sizeof rerun);
+    alarm(formSeconds);
     const QByteArray input = mutatedText(form);
-    QStringList problems;
     oddPaths->pipe.forget();
-    const QString designer = problemsOf("Designer", input, throughDesigner(input));
-    if (!designer.isEmpty())
-        problems << designer;
-    const QString builder = problemsOf("VoCc::FormBuilder", input, throughFormBuilder(input));
-    if (!builder.isEmpty())
-        problems << builder;
-    if (oddPaths->pipe.wasOpened())
-        problems << QStringLiteral("an icon path naming a FIFO was opened");
-    stopWatch();
+    // The roads in this order: the pipe is looked at after both.
+    QStringList problems = {problemsOf("Designer", input, throughDesigner(input)),
+                            problemsOf("VoCc::FormBuilder", input, throughFormBuilder(input)),
+                            oddPaths->pipe.wasOpened()
+                                    ? QStringLiteral("an icon path naming a FIFO was opened")
+                                    : QString()};
+    alarm(0);
+    problems.removeAll(QString());
     return problems.join(QLatin1Char('\n'));
 }
 
@@ -640,7 +590,6 @@ class TestMutatedForms : public QObject
     Q_OBJECT
     TestPictures m_pictures;
     OddPaths m_oddPaths;
-    std::thread m_watchdog;
 
 private slots:
     void initTestCase()
@@ -650,20 +599,8 @@ private slots:
         pictureFile = m_pictures.red;
         oddPaths = &m_oddPaths;
         QVERIFY(!m_oddPaths.pipe.path.isEmpty());
-        for (int signal : {SIGSEGV, SIGBUS, SIGFPE, SIGILL, SIGABRT})
+        for (int signal : {SIGSEGV, SIGBUS, SIGFPE, SIGILL, SIGABRT, SIGALRM})
             std::signal(signal, fatalSignal);
-        m_watchdog = std::thread(watch);
-    }
-
-    void cleanupTestCase()
-    {
-        {
-            std::lock_guard<std::mutex> lock(watchMutex);
-            watchStop = true;
-            watchWake.notify_all();
-        }
-        m_watchdog.join();
-        oddPaths = nullptr;
     }
 
     void startingFormsLoseNothing()
@@ -773,13 +710,8 @@ private slots:
             if (!broken.isEmpty()) {
                 const MutatedForm small = shrink(form);
                 QFAIL(qPrintable(
-                        QStringLiteral("%1\nRun it again with: CC_MUTATED_FORMS=1 "
-                                       "CC_MUTATION_SEED=%2 %3 mutatedForms\nshrunk to "
-                                       "%4\n%5\n%6")
-                                .arg(broken)
-                                .arg(form.seed)
-                                .arg(QCoreApplication::applicationFilePath(), describe(small),
-                                     runForm(small),
+                        QStringLiteral("%1\nRun it again with: %2\nshrunk to %3\n%4\n%5")
+                                .arg(broken, rerunCommand(form), describe(small), runForm(small),
                                      QString::fromUtf8(mutatedText(MutatedForm {
                                              small.seed, small.families, 0, small.mutations})))));
             }

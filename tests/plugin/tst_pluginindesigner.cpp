@@ -10,29 +10,13 @@
 
 #include <nui/CommonControls/CcMatrixButtons.hpp>
 
-#include <QAbstractButton>
-#include <QAction>
-#include <QDesignerContainerExtension>
-#include <QDesignerExtraInfoExtension>
-#include <QDesignerFormEditorInterface>
-#include <QDesignerFormWindowInterface>
-#include <QDesignerFormWindowManagerInterface>
-#include <QDesignerPropertyEditorInterface>
-#include <QDesignerPropertySheetExtension>
-#include <QDesignerTaskMenuExtension>
 #include <QExtensionFactory>
-#include <QExtensionManager>
-#include <QFile>
-#include <QLayout>
-#include <QScopeGuard>
-#include <QUndoStack>
+#include <QtDesigner>
+#include <QtTest>
 #include <QtCore/private/qobject_p.h>
 #include <QtDesigner/private/qdesigner_command_p.h>
 #include <QtDesigner/private/qtresourcemodel_p.h>
 #include <QtDesigner/private/shared_enums_p.h>
-#include <QtTest>
-#include <QtUiPlugin/QDesignerCustomWidgetCollectionInterface>
-#include <QtUiPlugin/QDesignerCustomWidgetInterface>
 
 using namespace qdesigner_internal;
 using CcTest::pagesOf;

@@ -4,14 +4,8 @@
 
 #include <widgetpluginrow.h>
 
-#include <QDesignerFormEditorInterface>
-#include <QExtensionManager>
-#include <QLibrary>
-#include <QPluginLoader>
-#include <QPointer>
+#include <QtDesigner>
 #include <QtTest>
-#include <QtUiPlugin/QDesignerCustomWidgetCollectionInterface>
-#include <QtUiPlugin/QDesignerCustomWidgetInterface>
 
 // The module as a plug-in loader sees it, without Designer: the loader may delete the root
 // object, and asking again then builds a fresh collection. And the plug-ins' initialisation,

@@ -7,16 +7,8 @@
 #include "qttreepropertybrowser.h"
 #include "qtvariantproperty.h"
 
-#include <QCheckBox>
-#include <QColorDialog>
-#include <QComboBox>
-#include <QFontDialog>
-#include <QHeaderView>
-#include <QKeySequenceEdit>
-#include <QSpinBox>
-#include <QTest>
-#include <QToolButton>
-#include <QTreeWidget>
+#include <QtWidgets>
+#include <QtTest>
 
 #include <memory>
 

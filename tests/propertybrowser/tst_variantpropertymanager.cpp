@@ -4,9 +4,8 @@
 #include "qtcompat.h"
 #include "qtvariantproperty.h"
 
-#include <QPixmap>
-#include <QSizePolicy>
-#include <QTest>
+#include <QtWidgets>
+#include <QtTest>
 
 namespace {
 

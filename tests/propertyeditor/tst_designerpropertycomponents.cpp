@@ -16,15 +16,7 @@
 #include <QtDesigner/private/qdesigner_utils_p.h>
 #include <QtDesigner/private/richtexteditor_p.h>
 
-#include <QAction>
-#include <QDesignerFormEditorInterface>
-#include <QDesignerFormWindowCursorInterface>
-#include <QDesignerFormWindowInterface>
-#include <QDesignerPropertyEditorInterface>
-#include <QFileInfo>
-#include <QSpinBox>
-#include <QToolButton>
-#include <QTreeWidget>
+#include <QtDesigner>
 #include <QtTest>
 
 #include <dlfcn.h>

@@ -3,18 +3,7 @@
 #include "designertestcore.h"
 #include "modalanswer.h"
 
-#include <QCheckBox>
-#include <QDesignerFormEditorInterface>
-#include <QDesignerTaskMenuExtension>
-#include <QExtensionManager>
-#include <QHeaderView>
-#include <QListWidget>
-#include <QMenu>
-#include <QPushButton>
-#include <QSpinBox>
-#include <QTableWidget>
-#include <QToolButton>
-#include <QTreeWidget>
+#include <QtDesigner>
 #include <QtTest>
 
 namespace CcTest {
@@ -248,11 +237,16 @@ inline QDesignerTaskMenuExtension *taskMenuOf(QObject *widget)
     return qt_extension<QDesignerTaskMenuExtension *>(designerCore()->extensionManager(), widget);
 }
 
-// Triggers entry, works the editor it opens with act and presses OK or Cancel. Returns what
-// went wrong, empty when nothing did: no editor came up, or the driver's failures.
-inline QString editThrough(QAction *entry, const std::function<void(ItemDialogDriver &)> &act,
-                           bool accept = true)
+// Triggers the widget's context-menu entry, works the editor it opens with act and presses OK
+// or Cancel. Returns what went wrong, empty when nothing did: no task menu, no editor came up,
+// or the driver's failures.
+inline QString edit(QWidget *widget, const std::function<void(ItemDialogDriver &)> &act,
+                    bool accept = true)
 {
+    QDesignerTaskMenuExtension *menu = taskMenuOf(widget);
+    if (!menu)
+        return QStringLiteral("no task menu");
+    QAction *entry = menu->preferredEditAction();
     QStringList failures;
     const auto work = [&act, &failures](QDialog *dialog) {
         ItemDialogDriver driver(dialog);
@@ -263,16 +257,6 @@ inline QString editThrough(QAction *entry, const std::function<void(ItemDialogDr
     if (!answerModal<QDialog>([entry] { entry->trigger(); }, work, accept))
         return QStringLiteral("no editor came up");
     return failures.join(QStringLiteral("; "));
-}
-
-// The same through the widget's context-menu entry.
-inline QString edit(QWidget *widget, const std::function<void(ItemDialogDriver &)> &act,
-                    bool accept = true)
-{
-    QDesignerTaskMenuExtension *menu = taskMenuOf(widget);
-    if (!menu)
-        return QStringLiteral("no task menu");
-    return editThrough(menu->preferredEditAction(), act, accept);
 }
 
 } // namespace CcTest

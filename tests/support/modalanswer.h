@@ -3,13 +3,7 @@
 // Answering modal dialogs from a timer, as a user in front of them would, and letting queued
 // work happen. Shared by every suite that opens dialogs.
 
-#include <QApplication>
-#include <QDialog>
-#include <QElapsedTimer>
-#include <QFileDialog>
-#include <QLineEdit>
-#include <QPointer>
-#include <QTimer>
+#include <QtWidgets>
 #include <algorithm>
 #include <functional>
 

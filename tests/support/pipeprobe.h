@@ -6,9 +6,7 @@
 // on (it reads the end of the file). So a test finds that code opened the pipe instead of
 // hanging in it.
 
-#include <QFile>
-#include <QString>
-#include <QTemporaryDir>
+#include <QtCore>
 
 #include <atomic>
 #include <chrono>

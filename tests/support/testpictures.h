@@ -1,8 +1,6 @@
 #pragma once
 
-#include <QColor>
-#include <QPixmap>
-#include <QTemporaryDir>
+#include <QtGui>
 
 namespace CcTest {
 
