@@ -237,16 +237,11 @@ inline QDesignerTaskMenuExtension *taskMenuOf(QObject *widget)
     return qt_extension<QDesignerTaskMenuExtension *>(designerCore()->extensionManager(), widget);
 }
 
-// Triggers the widget's context-menu entry, works the editor it opens with act and presses OK
-// or Cancel. Returns what went wrong, empty when nothing did: no task menu, no editor came up,
-// or the driver's failures.
-inline QString edit(QWidget *widget, const std::function<void(ItemDialogDriver &)> &act,
-                    bool accept = true)
+// Triggers entry, works the editor it opens with act and presses OK or Cancel. Returns what
+// went wrong, empty when nothing did: no editor came up, or the driver's failures.
+inline QString editThrough(QAction *entry, const std::function<void(ItemDialogDriver &)> &act,
+                           bool accept = true)
 {
-    QDesignerTaskMenuExtension *menu = taskMenuOf(widget);
-    if (!menu)
-        return QStringLiteral("no task menu");
-    QAction *entry = menu->preferredEditAction();
     QStringList failures;
     const auto work = [&act, &failures](QDialog *dialog) {
         ItemDialogDriver driver(dialog);
@@ -257,6 +252,16 @@ inline QString edit(QWidget *widget, const std::function<void(ItemDialogDriver &
     if (!answerModal<QDialog>([entry] { entry->trigger(); }, work, accept))
         return QStringLiteral("no editor came up");
     return failures.join(QStringLiteral("; "));
+}
+
+// The same through the widget's context-menu entry.
+inline QString edit(QWidget *widget, const std::function<void(ItemDialogDriver &)> &act,
+                    bool accept = true)
+{
+    QDesignerTaskMenuExtension *menu = taskMenuOf(widget);
+    if (!menu)
+        return QStringLiteral("no task menu");
+    return editThrough(menu->preferredEditAction(), act, accept);
 }
 
 } // namespace CcTest

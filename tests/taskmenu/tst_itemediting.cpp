@@ -358,10 +358,16 @@ Session generate(quint32 seed)
     return session;
 }
 
+// A fault put in by a test, to see how a failing session is shrunk: when it answers true for
+// an action, the driver is told that the action failed.
+bool (*injectedFault)(const Driver &, const Action &) = nullptr;
+
 // One action as the dialog is now; one that needs what is not there (a row to select in an
 // empty list, a current item to rename) is passed over, as a user could not do it either.
 void act(Driver &dialog, const Family &family, const Action &action)
 {
+    if (injectedFault && injectedFault(dialog, action))
+        return dialog.fail(QStringLiteral("injected fault"));
     const int rows = dialog.list() ? dialog.list()->count() : dialog.table()->rowCount();
     const int columns = dialog.table() ? dialog.table()->columnCount() : 1;
     const bool current = dialog.list()
@@ -768,6 +774,40 @@ private slots:
             QVERIFY(!factory->extension(&standalone, Q_TYPEID(QDesignerTaskMenuExtension)));
             QCOMPARE(edit(widget.data(), [](Driver &) {}), QStringLiteral("no editor came up"));
         }
+    }
+
+    // A dialog without what the driver works is a failure that says what was looked for.
+    void driverSaysWhatItMisses()
+    {
+        QAction entry(nullptr);
+        connect(&entry, &QAction::triggered, [] { QDialog().exec(); });
+        bool acted = false;
+        QCOMPARE(editThrough(&entry, [&acted](Driver &) { acted = true; }),
+                 QStringLiteral("no QListWidget \"listWidget\" or QTableWidget \"tableWidget\"; "
+                                "no property pane (a QTreeWidget)"));
+        QVERIFY(!acted);
+    }
+
+    // A session that fails only once a list holds six rows and one of them is renamed: it is
+    // shrunk to the two edits that make the rows and rename, every other step and action left
+    // out, and what is left still fails (a failure inside the driver must not leave every
+    // later candidate failing too).
+    void shrinkingKeepsWhatFails()
+    {
+        const auto faulty = [](const Driver &dialog, const Action &action) {
+            return action.act == 'r' && dialog.list()->count() >= 6;
+        };
+        injectedFault = faulty;
+        const auto restore = qScopeGuard([] { injectedFault = nullptr; });
+        const auto editStep = [](QVector<Action> actions) { return Step {'E', 0, true, actions}; };
+        const Action n {'n', 0, 0, QStringLiteral("new")}, s {'s', 1, 0, {}},
+                r {'r', 0, 0, QStringLiteral("renamed")}, d {'d', 0, 0, {}};
+        const Session session {
+                0, 3, {editStep({n, s, n}), {'R', 1, true, {}}, editStep({n, r, d})}};
+        QVERIFY(runSession(session).contains(QLatin1String("after step 3: injected fault")));
+        const Session small = shrink(session);
+        QCOMPARE(describe(small), describe({0, 3, {editStep({n, n}), editStep({n, r})}}));
+        QCOMPARE(runSession(small), QStringLiteral("after step 2: injected fault"));
     }
 
     void randomSessions_data()
