@@ -704,8 +704,15 @@ private slots:
         clock.start();
         std::fill(std::begin(refusedForms), std::end(refusedForms), 0);
         std::fill(std::begin(warnings), std::end(warnings), 0);
+        // CC_MUTATION_FOLDER keeps each form as a file there too, for other tools to read.
+        const QDir keep(qEnvironmentVariable("CC_MUTATION_FOLDER"));
         for (int i = 0; i < forms; ++i) {
             const MutatedForm form = generate(seed + quint32(i));
+            if (qEnvironmentVariableIsSet("CC_MUTATION_FOLDER")) {
+                QFile file(keep.filePath(QStringLiteral("form%1.ui").arg(form.seed)));
+                QVERIFY(file.open(QIODevice::WriteOnly));
+                file.write(mutatedText(form));
+            }
             const QString broken = runForm(form);
             if (!broken.isEmpty()) {
                 const MutatedForm small = shrink(form);

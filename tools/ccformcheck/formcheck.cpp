@@ -170,6 +170,11 @@ FormResult checkForm(const QString &file, int index, const CheckOptions &options
         if (said.contains(warning) || unknownClass)
             continue;
         said.insert(warning);
+        // The reason the load failed is the error above.
+        const QString text = warning.startsWith(QLatin1String("Designer: ")) ? warning.mid(10)
+                                                                             : warning;
+        if (!atRunTime.loaded && atRunTime.error.contains(text))
+            continue;
         result.add(xml.lineOfWidgetIn(warning), false, warning);
     }
 
@@ -187,6 +192,9 @@ FormResult checkForm(const QString &file, int index, const CheckOptions &options
         QString text = warning;
         if (text.startsWith(QLatin1String("Designer: ")))
             text.remove(0, 10);
+        // The reason it refused the form, said once, as the error above.
+        if (!inDesigner.loaded && inDesigner.error.contains(text))
+            continue;
         result.add(xml.lineOfWidgetIn(warning), false, QStringLiteral("in Designer: ") + text);
     }
     if (inDesigner.loaded)
