@@ -351,6 +351,8 @@ private slots:
         QPointer<QWidget> removed = group.widget(2);
         group.removePage(2);
         group.removePage(17);
+        // Not deleted later either: the one who removed it may put it back.
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QVERIFY(removed);
         QVERIFY(removed->isHidden());
         QCOMPARE(group.indexOf(removed), -1);
