@@ -58,6 +58,8 @@ class FragileWidgets : public QObject, public QDesignerCustomWidgetCollectionInt
     Q_INTERFACES(QDesignerCustomWidgetCollectionInterface)
 
 public:
+    // CC_FRAGILE_START_SECONDS makes Designer's start slow, as a heavy plug-in does.
+    FragileWidgets() { QThread::sleep(qEnvironmentVariableIntValue("CC_FRAGILE_START_SECONDS")); }
     QList<QDesignerCustomWidgetInterface *> customWidgets() const override { return {&m_plugin}; }
 
 private:

@@ -231,6 +231,21 @@ private slots:
         QCOMPARE(run.status, 1);
     }
 
+    // A worker's own start, however slow, is not counted as the form's time.
+    void slowStartIsNoFormsTime()
+    {
+        QTemporaryDir dir;
+        write(dir.filePath(QStringLiteral("form.ui")), formXml(pane("a", {})).toUtf8());
+        qputenv("CC_FRAGILE_START_SECONDS", "3");
+        const Run run = check({QStringLiteral("--timeout"), QStringLiteral("2"),
+                               QStringLiteral("--plugin"), QStringLiteral(CC_PLUGIN_MODULE),
+                               QStringLiteral("--plugin"), QStringLiteral(CC_FRAGILE_MODULE),
+                               QStringLiteral("form.ui")},
+                              dir.path());
+        qunsetenv("CC_FRAGILE_START_SECONDS");
+        QCOMPARE(run.lines, QStringList {"1 forms checked, 0 errors, 0 warnings"});
+    }
+
     // --junit and --html over a folder holding a form with an error, one with a warning and a
     // clean one; and the exit status of bad usage.
     void reportsAndUsage()

@@ -7,6 +7,10 @@ namespace {
 const QByteArray stageTag("@ccformcheck stage ");
 const QByteArray resultTag("@ccformcheck result ");
 const int keptErrorBytes = 4000;
+const QString startingStage = QStringLiteral("starting the checker");
+// What a new worker may take to start (its Designer core, the plug-ins) before its first form's
+// own time begins.
+const int startSeconds = 120;
 
 // The last lines of a worker's standard error, as a reason for its end.
 QString lastLines(const QByteArray &errors, int count)
@@ -65,6 +69,7 @@ void WorkerPool::check(const QStringList &files)
 void WorkerPool::start(Worker *worker)
 {
     worker->process = std::make_unique<QProcess>();
+    worker->started = false;
     QProcess *process = worker->process.get();
     worker->output.clear();
     worker->errors.clear();
@@ -95,11 +100,11 @@ void WorkerPool::next(Worker *worker)
         return;
     }
     worker->index = m_next++;
-    worker->stage = QStringLiteral("starting");
+    worker->stage = startingStage;
     const QByteArray line =
             QByteArray::number(worker->index) + '\t' + m_files.at(worker->index).toUtf8() + '\n';
     worker->process->write(line);
-    worker->timer.start(m_secondsPerForm * 1000);
+    worker->timer.start((m_secondsPerForm + (worker->started ? 0 : startSeconds)) * 1000);
 }
 
 void WorkerPool::read(Worker *worker)
@@ -110,9 +115,13 @@ void WorkerPool::read(Worker *worker)
         const QByteArray line = worker->output.left(end);
         worker->output.remove(0, end + 1);
         if (line.startsWith(stageTag)) {
-            // From its first step on, what the worker says is about this form.
-            if (worker->stage == QLatin1String("starting"))
+            // From its first step on, what the worker says is about this form, and the form's
+            // time starts: a worker's own start (its Designer core) does not count against it.
+            if (worker->stage == startingStage) {
+                worker->started = true;
                 worker->errors.clear();
+                worker->timer.start(m_secondsPerForm * 1000);
+            }
             worker->stage = QString::fromUtf8(line.mid(stageTag.size()));
         } else if (line.startsWith(resultTag) && worker->index >= 0) {
             const QJsonDocument json = QJsonDocument::fromJson(line.mid(resultTag.size()));

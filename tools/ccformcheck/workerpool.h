@@ -35,6 +35,7 @@ private:
         std::unique_ptr<QProcess> process;
         QTimer timer;
         int index = -1; // the form being checked, -1 when idle
+        bool started = false; // it began a form: its Designer core is up
         QString stage;
         QByteArray output;
         QByteArray errors; // the end of what it wrote to stderr
