@@ -394,6 +394,14 @@ void dropUnreadableItemPaths(const QVector<DomItem *> &items, const QDir &folder
     }
 }
 
+void warnNotKept(const QString &className, const QString &name, const QStringList &dropped)
+{
+    if (!dropped.isEmpty()) {
+        qWarning("%s \"%s\": not kept from the form: %s", qPrintable(className), qPrintable(name),
+                 qPrintable(dropped.join(QStringLiteral("; "))));
+    }
+}
+
 void cutLongItemTexts(DomWidget *domWidget)
 {
     const QString textName = fieldName(Text);
@@ -707,17 +715,23 @@ QWidget *FormBuilder::create(DomWidget *domWidget, QWidget *parentWidget)
     domWidget->setElementProperty(withoutUnreadablePaths(domWidget->elementProperty(), folder,
                                                          QString(), dropped));
     dropUnreadableItemPaths(domWidget->elementItem(), folder, dropped);
-    if (!dropped.isEmpty()) {
-        qWarning("%s \"%s\": not kept from the form: %s", qPrintable(domWidget->attributeClass()),
-                 qPrintable(domWidget->attributeName()),
-                 qPrintable(dropped.join(QStringLiteral("; "))));
-    }
+    warnNotKept(domWidget->attributeClass(), domWidget->attributeName(), dropped);
     QWidget *widget = QFormBuilder::create(domWidget, parentWidget);
     if (widget)
         loadExtraInfo(domWidget, widget, nullptr);
     if (widget && m_translator)
         m_translator->watch(domWidget, widget);
     return widget;
+}
+
+QAction *FormBuilder::create(DomAction *domAction, QObject *parent)
+{
+    // An action's icon is read as a widget's is: the same paths are left out.
+    QStringList dropped;
+    domAction->setElementProperty(withoutUnreadablePaths(domAction->elementProperty(),
+                                                         workingDirectory(), QString(), dropped));
+    warnNotKept(QStringLiteral("QAction"), domAction->attributeName(), dropped);
+    return QFormBuilder::create(domAction, parent);
 }
 
 bool FormBuilder::addItem(DomWidget *domWidget, QWidget *widget, QWidget *parentWidget)

@@ -107,6 +107,7 @@ protected:
                           const QString &name) override;
     QWidget *create(DomUI *ui, QWidget *parentWidget) override;
     QWidget *create(DomWidget *domWidget, QWidget *parentWidget) override;
+    QAction *create(DomAction *domAction, QObject *parent) override;
     using QFormBuilder::create;
     bool addItem(DomWidget *domWidget, QWidget *widget, QWidget *parentWidget) override;
     using QFormBuilder::addItem;
