@@ -7,6 +7,12 @@ if(NOT examples)
     execute_process(COMMAND apt-get download qtbase5-examples qttools5-examples
         WORKING_DIRECTORY "${FOLDER}" RESULT_VARIABLE failed ERROR_VARIABLE said)
     if(failed)
+        # The package lists may name versions the archive no longer has: read them anew once.
+        execute_process(COMMAND apt-get update -qq RESULT_VARIABLE failed)
+        execute_process(COMMAND apt-get download qtbase5-examples qttools5-examples
+            WORKING_DIRECTORY "${FOLDER}" RESULT_VARIABLE failed ERROR_VARIABLE said)
+    endif()
+    if(failed)
         message(FATAL_ERROR "apt-get download of Qt's examples failed: ${said}")
     endif()
     file(GLOB packages "${FOLDER}/*.deb")
