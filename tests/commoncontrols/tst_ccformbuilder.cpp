@@ -433,12 +433,13 @@ private slots:
                     .arg(QLatin1String(property), path);
         };
         const QString body =
-                widgetXml("VoCc::Pane", "pane",
-                          icon("windowIcon", pipe.path))
+                widgetXml("VoCc::Pane", "pane", icon("windowIcon", pipe.path))
                 + widgetXml("QListWidget", "list",
-                            itemXml(propertyXml("text", "A") + icon("icon", QStringLiteral("/dev/zero"))))
+                            itemXml(propertyXml("text", "A")
+                                    + icon("icon", QStringLiteral("/dev/zero"))))
                 + widgetXml("QLabel", "label",
-                            QStringLiteral("<property name=\"pixmap\"><pixmap>%1</pixmap></property>")
+                            QStringLiteral("<property name=\"pixmap\"><pixmap>%1</pixmap>"
+                                           "</property>")
                                     .arg(pipe.path))
                 + widgetXml("VoCc::Pane", "kept", icon("windowIcon", QStringLiteral("missing.png")))
                 + QStringLiteral("<action name=\"open\">%1</action>").arg(icon("icon", pipe.path));

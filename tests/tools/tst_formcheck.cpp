@@ -98,7 +98,8 @@ private slots:
         QTest::addColumn<QString>("body");
         QTest::addColumn<QStringList>("options");
         QTest::addColumn<QStringList>("expected");
-        QTest::newRow("clean") << pane("a", id("1")) + pane("b", id("2")) << QStringList {"--require-ids"}
+        QTest::newRow("clean") << pane("a", id("1")) + pane("b", id("2"))
+                               << QStringList {"--require-ids"}
                                << QStringList {};
         QTest::newRow("names") << pane("a", {}) + widgetXml("QLabel", "a") + pane("b", {})
                                << QStringList {}
@@ -301,7 +302,8 @@ private slots:
         QVERIFY(error > 0 && error < warning);
         QVERIFY(warning < clean);
         QVERIFY(text.contains(QLatin1String("no picture: the form did not load")));
-        const QRegularExpression link(QStringLiteral("<a href=\"(\\d+\\.png)\"><img src=\"(\\d+-small\\.png)\""));
+        const QRegularExpression link(
+                QStringLiteral("<a href=\"(\\d+\\.png)\"><img src=\"(\\d+-small\\.png)\""));
         int pictures = 0;
         for (auto it = link.globalMatch(text); it.hasNext(); ++pictures) {
             const QRegularExpressionMatch match = it.next();

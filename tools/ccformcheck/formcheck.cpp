@@ -48,6 +48,27 @@ void addLosses(FormResult *result, const QByteArray &input, const CcForms::Round
     }
 }
 
+// A loader's warnings, each said once for the form (said holds those already reported) and
+// on the line of the widget it names; skip leaves out others. The reason a load failed is
+// its error, not a warning again. Qt's form readers start their messages with "Designer: ",
+// at run time too; after a prefix of ours that is left out.
+void addWarnings(FormResult *result, const FormXml &xml, const CcForms::RoundTrip &trip,
+                 const QString &prefix, QSet<QString> *said,
+                 const std::function<bool(const QString &)> &skip = {})
+{
+    for (const QString &warning : trip.warnings) {
+        if (said->contains(warning) || (skip && skip(warning)))
+            continue;
+        said->insert(warning);
+        const QString text = warning.startsWith(QLatin1String("Designer: ")) ? warning.mid(10)
+                                                                             : warning;
+        if (!trip.loaded && trip.error.contains(text))
+            continue;
+        result->add(xml.lineOfWidgetIn(warning), false,
+                    prefix.isEmpty() ? warning : prefix + text);
+    }
+}
+
 // Runs uic on the form, reading what it writes; started first, it works while the form loads.
 class Uic
 {
@@ -63,7 +84,8 @@ public:
         m_process.waitForFinished(-1);
         if (m_process.error() == QProcess::FailedToStart) {
             result->add(0, true,
-                        QStringLiteral("uic could not be started: %1").arg(m_process.errorString()));
+                        QStringLiteral("uic could not be started: %1")
+                                .arg(m_process.errorString()));
             return;
         }
         const bool failed =
@@ -124,7 +146,7 @@ FormResult checkForm(const QString &file, int index, const CheckOptions &options
         return finish();
     }
 
-    stage(QStringLiteral("uic"));
+    stage(QStringLiteral("starting uic"));
     Uic uic(options.uic, file);
 
     const FormXml xml(contents, info.absolutePath());
@@ -161,46 +183,28 @@ FormResult checkForm(const QString &file, int index, const CheckOptions &options
                            .arg(atRunTime.error));
     }
     QSet<QString> said;
-    for (const QString &warning : atRunTime.warnings) {
+    addWarnings(&result, xml, atRunTime, QString(), &said, [&](const QString &warning) {
         // Qt's own note on a class it could not create says what the finding above says.
-        const bool unknownClass = std::any_of(
-                unknownClasses.cbegin(), unknownClasses.cend(), [&](const QString &name) {
-                    return warning.contains(QLatin1Char('\'') + name + QLatin1Char('\''));
-                });
-        if (said.contains(warning) || unknownClass)
-            continue;
-        said.insert(warning);
-        // The reason the load failed is the error above.
-        const QString text = warning.startsWith(QLatin1String("Designer: ")) ? warning.mid(10)
-                                                                             : warning;
-        if (!atRunTime.loaded && atRunTime.error.contains(text))
-            continue;
-        result.add(xml.lineOfWidgetIn(warning), false, warning);
-    }
+        return std::any_of(unknownClasses.cbegin(), unknownClasses.cend(),
+                           [&](const QString &name) {
+                               return warning.contains(QLatin1Char('\'') + name
+                                                       + QLatin1Char('\''));
+                           });
+    });
 
     // As Designer loads and saves it; what it says that the run-time load did not say too.
     stage(QStringLiteral("loading and saving it in Designer"));
-    const CcForms::RoundTrip inDesigner = CcForms::throughDesigner(contents, 1, info.absoluteFilePath());
+    const CcForms::RoundTrip inDesigner =
+            CcForms::throughDesigner(contents, 1, info.absoluteFilePath());
     if (!inDesigner.loaded) {
         result.add(lineIn(inDesigner.error), true,
                    QStringLiteral("Designer cannot load the form: %1").arg(inDesigner.error));
     }
-    for (const QString &warning : inDesigner.warnings) {
-        if (said.contains(warning))
-            continue;
-        said.insert(warning);
-        QString text = warning;
-        if (text.startsWith(QLatin1String("Designer: ")))
-            text.remove(0, 10);
-        // The reason it refused the form, said once, as the error above.
-        if (!inDesigner.loaded && inDesigner.error.contains(text))
-            continue;
-        result.add(xml.lineOfWidgetIn(warning), false, QStringLiteral("in Designer: ") + text);
-    }
+    addWarnings(&result, xml, inDesigner, QStringLiteral("in Designer: "), &said);
     if (inDesigner.loaded)
         addLosses(&result, contents, inDesigner);
 
-    stage(QStringLiteral("uic"));
+    stage(QStringLiteral("waiting for uic"));
     uic.report(&result);
 
     if (!picture.isNull()) {
