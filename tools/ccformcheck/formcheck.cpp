@@ -38,13 +38,11 @@ void addLosses(FormResult *result, const QByteArray &input, const CcForms::Round
 {
     for (const FormValues::Value &value :
          FormValues::unexplainedLosses(input, trip.saved, trip.warnings)) {
-        QString shown = value.value;
-        if (shown.size() > 80)
-            shown = shown.left(77) + QStringLiteral("...");
         result->add(value.line, true,
                     QStringLiteral("%1 \"%2\": Designer's save drops the value \"%3\" of "
                                    "property \"%4\" without a warning")
-                            .arg(value.widgetClass, value.widgetName, shown, value.property));
+                            .arg(value.widgetClass, value.widgetName, FormValues::shownValue(value),
+                                 value.property));
     }
 }
 

@@ -317,14 +317,16 @@ QVector<Value> unexplainedLosses(const QByteArray &input, const QByteArray &outp
     return losses;
 }
 
+QString shownValue(const Value &value)
+{
+    return value.value.size() > 80 ? value.value.left(77) + QStringLiteral("...") : value.value;
+}
+
 QString describe(const Value &value)
 {
-    const auto cut = [](const QString &text) {
-        return text.size() > 80 ? text.left(77) + QStringLiteral("...") : text;
-    };
     return QStringLiteral("%1: %2: %3 \"%4\": property \"%5\" lost its value \"%6\"")
             .arg(value.line)
-            .arg(value.path, value.widgetClass, value.widgetName, value.property, cut(value.value));
+            .arg(value.path, value.widgetClass, value.widgetName, value.property, shownValue(value));
 }
 
 } // namespace FormValues

@@ -65,6 +65,9 @@ bool names(const QString &warning, const Value &value, const QString &otherName 
 // (VoCc::ComboBox "combo"), as a warning names a widget.
 QStringList widgetsOf(const QByteArray &ui);
 
+// A value as a message shows it: at most 80 characters, a longer one cut with "...".
+QString shownValue(const Value &value);
+
 // "LINE: PATH: CLASS "NAME": property "PROPERTY" lost its value "VALUE"", values cut to 80
 // characters.
 QString describe(const Value &value);
