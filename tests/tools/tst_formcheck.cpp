@@ -77,6 +77,14 @@ QString fragile(const char *name, const char *mode)
     return widgetXml("VoCc::TestFragile", name, propertyXml("mode", mode));
 }
 
+// Both Designer modules: ours and the fragile test widget.
+QStringList withModules(const QStringList &arguments)
+{
+    return QStringList {QStringLiteral("--plugin"), QStringLiteral(CC_PLUGIN_MODULE),
+                        QStringLiteral("--plugin"), QStringLiteral(CC_FRAGILE_MODULE)}
+            + arguments;
+}
+
 void write(const QString &fileName, const QByteArray &contents)
 {
     QFile file(fileName);
@@ -182,10 +190,7 @@ private slots:
             xml.replace(QLatin1String("<resources/>"),
                         QLatin1String("<resources><include location=\"icons.qrc\"/></resources>"));
         write(form, xml.toUtf8());
-        const Run run = check(options + QStringList {QStringLiteral("--plugin"),
-                                                     QStringLiteral(CC_PLUGIN_MODULE),
-                                                     QStringLiteral("--plugin"),
-                                                     QStringLiteral(CC_FRAGILE_MODULE), form});
+        const Run run = check(withModules(options << form));
         QStringList wanted = expected;
         wanted.replaceInStrings(QStringLiteral("FORM"), form);
         int errors = 0;
@@ -216,12 +221,7 @@ private slots:
         for (const auto &form : forms)
             write(dir.filePath(form.first + QStringLiteral(".ui")),
                   formXml(form.second, customWidgets()).toUtf8());
-        const Run run = check({QStringLiteral("-j"), QStringLiteral("2"),
-                               QStringLiteral("--timeout"), QStringLiteral("5"),
-                               QStringLiteral("--plugin"), QStringLiteral(CC_PLUGIN_MODULE),
-                               QStringLiteral("--plugin"), QStringLiteral(CC_FRAGILE_MODULE),
-                               QStringLiteral(".")},
-                              dir.path());
+        const Run run = check(withModules({"-j", "2", "--timeout", "5", "."}), dir.path());
         const QString inDesigner = QStringLiteral("while loading and saving it in Designer");
         QCOMPARE(run.lines.join(QLatin1Char('\n')),
                  QStringList({"2-hangs.ui: error: checking it took longer than 5 s, " + inDesigner,
@@ -238,11 +238,7 @@ private slots:
         QTemporaryDir dir;
         write(dir.filePath(QStringLiteral("form.ui")), formXml(pane("a", {})).toUtf8());
         qputenv("CC_FRAGILE_START_SECONDS", "3");
-        const Run run = check({QStringLiteral("--timeout"), QStringLiteral("2"),
-                               QStringLiteral("--plugin"), QStringLiteral(CC_PLUGIN_MODULE),
-                               QStringLiteral("--plugin"), QStringLiteral(CC_FRAGILE_MODULE),
-                               QStringLiteral("form.ui")},
-                              dir.path());
+        const Run run = check(withModules({"--timeout", "2", "form.ui"}), dir.path());
         qunsetenv("CC_FRAGILE_START_SECONDS");
         QCOMPARE(run.lines, QStringList {"1 forms checked, 0 errors, 0 warnings"});
     }
@@ -261,9 +257,7 @@ private slots:
         write(forms + QStringLiteral("/notes.txt"), "not a form");
         const QString junit = dir.filePath(QStringLiteral("report.xml"));
         const QString html = dir.filePath(QStringLiteral("sheet"));
-        const Run run = check({QStringLiteral("--junit"), junit, QStringLiteral("--html"), html,
-                               QStringLiteral("forms")},
-                              dir.path());
+        const Run run = check({"--junit", junit, "--html", html, "forms"}, dir.path());
         QVERIFY2(run.lines.size() == 3, qPrintable(run.lines.join(QLatin1Char('\n'))));
         QCOMPARE(run.lines.last(), QStringLiteral("3 forms checked, 1 errors, 1 warnings"));
         QCOMPARE(run.status, 1);
@@ -333,7 +327,7 @@ private slots:
     // The example form of this project is clean, ids included.
     void exampleFormsAreClean()
     {
-        const Run run = check({QStringLiteral("--require-ids"), QStringLiteral(CC_EXAMPLE_FORMS)});
+        const Run run = check({"--require-ids", CC_EXAMPLE_FORMS});
         QCOMPARE(run.lines, QStringList {"1 forms checked, 0 errors, 0 warnings"});
         QCOMPARE(run.status, 0);
     }
