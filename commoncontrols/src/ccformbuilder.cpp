@@ -184,6 +184,38 @@ QVector<DomWidget *> pageElements(const DomWidget *domWidget, const DrawbackBoxG
 // them in the page's own property and needs none of this.
 const char titleMarksProperty[] = "voccTitleMarks";
 
+// The translation marks of a widget's string properties as loaded (name -> [text, marks]),
+// kept on the widget for the run-time writer, which saves strings without marks. Not form
+// content itself.
+const char propertyMarksProperty[] = "voccPropertyMarks";
+
+void keepPropertyMarks(const DomWidget *domWidget, QWidget *widget)
+{
+    QVariantMap kept;
+    const QList<DomProperty *> properties = domWidget->elementProperty();
+    for (const DomProperty *property : properties) {
+        const DomString *string = property->elementString();
+        const QVariantMap marks = string ? attributesOf(string) : QVariantMap();
+        if (!marks.isEmpty())
+            kept.insert(property->attributeName(), QVariantList {string->text(), marks});
+    }
+    if (!kept.isEmpty())
+        widget->setProperty(propertyMarksProperty, kept);
+}
+
+// Gives the saved strings of an object their marks as loaded, where the text is still the one
+// loaded.
+void restorePropertyMarks(const QObject *object, const QList<DomProperty *> &properties)
+{
+    const QVariantMap kept = object->property(propertyMarksProperty).toMap();
+    for (DomProperty *property : properties) {
+        const QVariantList loaded = kept.value(property->attributeName()).toList();
+        DomString *string = property->elementString();
+        if (loaded.size() == 2 && string && string->text() == loaded.first().toString())
+            setAttributes(string, loaded.last().toMap());
+    }
+}
+
 void savePageGroup(DomWidget *domWidget, DrawbackBoxGroup *group)
 {
     setNumberProperty(domWidget, currentIndexProperty, group->currentIndex());
@@ -335,9 +367,6 @@ QString documentProblem(const QByteArray &contents)
     return QString();
 }
 
-// A combo box shows its items' own texts, and Qt measures every one of them whole: texts
-// beyond what any widget of the library shows are cut before the items are made, with one
-// warning for the widget.
 // The first path of an icon or picture property that names something other than a file or a
 // folder (a FIFO, a device, a socket), or an empty text. Qt's reader would open it and wait
 // for a writer, or read a device without end; a missing file only gives no picture.
@@ -402,29 +431,56 @@ void warnNotKept(const QString &className, const QString &name, const QStringLis
     }
 }
 
-void cutLongItemTexts(DomWidget *domWidget)
+// The whole text of a combo box item whose text was cut for showing, kept with the item so
+// that saving writes it whole again. Far above the roles an application gives its items.
+const int wholeTextRole = Qt::UserRole + 0x5754;
+
+// A combo box shows its items' own texts, and Qt measures every one of them whole: texts
+// beyond what any widget of the library shows are cut before the items are made, with one
+// warning for the widget. Returns the whole texts by item index.
+QHash<int, QString> cutLongItemTexts(DomWidget *domWidget)
 {
     const QString textName = fieldName(Text);
-    int cut = 0;
+    QHash<int, QString> whole;
     int longest = 0;
     const QVector<DomItem *> items = domWidget->elementItem();
-    for (DomItem *item : items) {
-        const QList<DomProperty *> properties = item->elementProperty();
+    for (int i = 0; i < items.size(); ++i) {
+        const QList<DomProperty *> properties = items.at(i)->elementProperty();
         for (DomProperty *property : properties) {
             DomString *string =
                     property->attributeName() == textName ? property->elementString() : nullptr;
             if (string && string->text().size() > EntryLists::maximumShownLength) {
                 longest = qMax(longest, string->text().size());
+                whole.insert(i, string->text());
                 string->setText(EntryLists::shownText(string->text()));
-                ++cut;
             }
         }
     }
-    if (cut > 0) {
+    if (!whole.isEmpty()) {
         qWarning("%s \"%s\": property \"text\" of %d item(s) has up to %d characters, more "
-                 "than the %d a widget shows; cut to %d",
+                 "than the %d a widget shows; shown cut to %d, saved whole",
                  qPrintable(domWidget->attributeClass()), qPrintable(domWidget->attributeName()),
-                 cut, longest, EntryLists::maximumShownLength, EntryLists::maximumShownLength);
+                 int(whole.size()), longest, EntryLists::maximumShownLength,
+                 EntryLists::maximumShownLength);
+    }
+    return whole;
+}
+
+// Writes the whole texts of items whose texts were cut for showing back into the saved items.
+void writeWholeItemTexts(DomWidget *domWidget, const ComboBox *comboBox)
+{
+    const QVector<DomItem *> items = domWidget->elementItem();
+    if (items.size() != comboBox->count())
+        return;
+    for (int i = 0; i < items.size(); ++i) {
+        const QString whole = comboBox->itemData(i, wholeTextRole).toString();
+        if (whole.isEmpty() || EntryLists::shownText(whole) != comboBox->itemText(i))
+            continue; // not cut, or changed since
+        const QList<DomProperty *> properties = items.at(i)->elementProperty();
+        for (DomProperty *property : properties) {
+            if (property->attributeName() == fieldName(Text) && property->elementString())
+                property->elementString()->setText(whole);
+        }
     }
 }
 
@@ -533,43 +589,56 @@ void dropUntakenNumber(const DomWidget *domWidget, const QWidget *widget, const 
         dropped.append(QStringLiteral("%1 (it has %2)").arg(value).arg(held));
 }
 
-// A pop-button matrix's texts: its "textList", a string list. A single string is a list of
-// one. Texts its items hold as well fill the entries the list leaves empty; those that would
-// replace a text of the list are not kept.
-QStringList popButtonTexts(const DomWidget *domWidget, const Lists &itemTexts,
-                           QVariantMap *sharedAttributes, QStringList &dropped)
+// A pop-button matrix's texts: its "textList", a string list, whose attributes every text
+// shares. A single string is a list of one. Texts its items hold as well fill the entries the
+// list leaves empty, with their own attributes; those of cells the list already gives a text
+// (the same one or another) are not kept. Sets lists' texts and their attributes.
+void readPopButtonTexts(const DomWidget *domWidget, Lists &lists, QStringList &dropped)
 {
     const DomProperty *property = findProperty(domWidget, textListProperty);
     QStringList texts;
+    QVariantMap shared;
     if (property && property->kind() == DomProperty::StringList) {
         texts = property->elementStringList()->elementString();
-        *sharedAttributes = attributesOf(property->elementStringList());
+        shared = attributesOf(property->elementStringList());
     } else if (property) {
         texts.append(propertyText(property));
         if (property->kind() == DomProperty::String)
-            *sharedAttributes = attributesOf(property->elementString());
+            shared = attributesOf(property->elementString());
         QVector<QPair<QString, QString>> kept = {{QString(), texts.first()}};
-        for (auto a = sharedAttributes->cbegin(); a != sharedAttributes->cend(); ++a)
+        for (auto a = shared.cbegin(); a != shared.cend(); ++a)
             kept.append({a.key(), a.value().toString()});
-        if (sharedAttributes->value(QStringLiteral("notr")).toBool())
+        if (shared.value(QStringLiteral("notr")).toBool())
             kept.append({QStringLiteral("notr"), QStringLiteral("true")});
         dropped += droppedValues(QString(), property, kept);
     }
-    const QStringList &fromItems = itemTexts[Text];
+    QVariantList attributes;
+    if (!shared.isEmpty()) {
+        for (int i = 0; i < texts.size(); ++i)
+            attributes.append(shared);
+    }
+    const QStringList &fromItems = lists[Text];
     for (int i = 0; i < fromItems.size(); ++i) {
         const QString &text = fromItems.at(i);
-        if (text.isEmpty() || text == EntryLists::at(texts, i))
+        const QVariantMap own = lists.attributes[Text].value(i).toMap();
+        if (text.isEmpty())
             continue;
         if (!EntryLists::at(texts, i).isEmpty()) {
-            dropped.append(droppedValue(QStringLiteral("item %1 ").arg(i + 1), fieldName(Text),
-                                        {QString(), text}));
+            const QString where = QStringLiteral("item %1 ").arg(i + 1);
+            dropped.append(droppedValue(where, fieldName(Text), {QString(), text}));
+            for (auto a = own.cbegin(); a != own.cend(); ++a)
+                dropped.append(droppedValue(where, fieldName(Text), {a.key(), a.value().toString()}));
             continue;
         }
         while (texts.size() <= i)
             texts.append(QString());
         texts[i] = text;
+        while (attributes.size() <= i)
+            attributes.append(shared);
+        attributes[i] = own;
     }
-    return texts;
+    lists[Text] = texts;
+    lists.attributes[Text] = attributes;
 }
 
 // Qt's writer saves a tree or table view's headers as "header..." attributes of the view: it
@@ -708,8 +777,10 @@ QWidget *FormBuilder::create(DomUI *ui, QWidget *parentWidget)
 
 QWidget *FormBuilder::create(DomWidget *domWidget, QWidget *parentWidget)
 {
-    if (domWidget->attributeClass() == QLatin1String("VoCc::ComboBox"))
-        cutLongItemTexts(domWidget);
+    const QHash<int, QString> wholeTexts = domWidget->attributeClass()
+                    == QLatin1String("VoCc::ComboBox")
+            ? cutLongItemTexts(domWidget)
+            : QHash<int, QString>();
     QStringList dropped;
     const QDir folder = workingDirectory();
     domWidget->setElementProperty(withoutUnreadablePaths(domWidget->elementProperty(), folder,
@@ -717,8 +788,16 @@ QWidget *FormBuilder::create(DomWidget *domWidget, QWidget *parentWidget)
     dropUnreadableItemPaths(domWidget->elementItem(), folder, dropped);
     warnNotKept(domWidget->attributeClass(), domWidget->attributeName(), dropped);
     QWidget *widget = QFormBuilder::create(domWidget, parentWidget);
-    if (widget)
+    if (widget) {
         loadExtraInfo(domWidget, widget, nullptr);
+        keepPropertyMarks(domWidget, widget);
+    }
+    if (auto *comboBox = qobject_cast<ComboBox *>(widget)) {
+        for (auto text = wholeTexts.cbegin(); text != wholeTexts.cend(); ++text) {
+            if (text.key() < comboBox->count())
+                comboBox->setItemData(text.key(), text.value(), wholeTextRole);
+        }
+    }
     if (widget && m_translator)
         m_translator->watch(domWidget, widget);
     return widget;
@@ -840,7 +919,7 @@ QList<DomProperty *> FormBuilder::computeProperties(QObject *object)
     // ("_q_...") are not form content.
     const QList<QByteArray> dynamicNames = object->dynamicPropertyNames();
     for (const QByteArray &name : dynamicNames) {
-        if (name.startsWith("_q_"))
+        if (name.startsWith("_q_") || name == propertyMarksProperty)
             continue;
         if (DomProperty *domProperty =
                     createProperty(object, QString::fromUtf8(name), object->property(name))) {
@@ -848,6 +927,7 @@ QList<DomProperty *> FormBuilder::computeProperties(QObject *object)
             properties.append(domProperty);
         }
     }
+    restorePropertyMarks(object, properties);
     // Only what the writer keeps of an item view's header, so that it drops nothing.
     return isItemViewHeader(object) ? keptAsHeaderAttributes(properties) : properties;
 }
@@ -931,6 +1011,7 @@ void FormBuilder::saveExtraInfo(DomWidget *domWidget, QWidget *widget, void *con
                 actions = ofWritten;
         }
         writeItemActions(domWidget, actions);
+        writeWholeItemTexts(domWidget, comboBox);
     } else if (auto *group = qobject_cast<DrawbackBoxGroup *>(widget)) {
         savePageGroup(domWidget, group);
     }
@@ -973,15 +1054,8 @@ void FormBuilder::loadExtraInfo(DomWidget *domWidget, QWidget *widget, void *con
         // Texts are one string list, or in the items when they are marked differently (or in
         // a file written by hand).
         Lists lists = readItems(domWidget, matrixFields, &dropped);
-        if (findProperty(domWidget, textListProperty)) {
-            QVariantMap shared;
-            lists[Text] = popButtonTexts(domWidget, lists, &shared, dropped);
-            lists.attributes[Text].clear();
-            if (!shared.isEmpty()) {
-                for (int i = 0; i < lists[Text].size(); ++i)
-                    lists.attributes[Text].append(shared);
-            }
-        }
+        if (findProperty(domWidget, textListProperty))
+            readPopButtonTexts(domWidget, lists, dropped);
         padLists(lists, {Text, Icon, ToolTip, Action});
         popButtons->setTextList(lists[Text]);
         popButtons->setIconList(lists[Icon]);
