@@ -535,6 +535,10 @@ private slots:
         // New opens the new item for renaming; Escape keeps its text.
         const auto clickNew = [&] {
             click("newListItemButton");
+            QLineEdit *inPlace = list->findChild<QLineEdit *>();
+            QVERIFY(inPlace);
+            QVERIFY(inPlace->isVisible());
+            QCOMPARE(inPlace->text(), QStringLiteral("New Item"));
             typeInPlace(QStringLiteral("Abandoned"), Qt::Key_Escape);
         };
 
