@@ -8,8 +8,8 @@
 #include "qttreepropertybrowser.h"
 #include "qtvariantproperty.h"
 
-#include <QtWidgets>
 #include <QtTest>
+#include <QtWidgets>
 
 #include <memory>
 
@@ -41,6 +41,12 @@ QStringList names(const QList<QtProperty *> &properties)
     return result;
 }
 
+void showActive(QWidget *window)
+{
+    window->show();
+    QApplication::setActiveWindow(window);
+    QVERIFY(QTest::qWaitForWindowActive(window));
+}
 
 // A browser with its manager and factory, as in an item editor.
 struct Pane
@@ -50,12 +56,7 @@ struct Pane
         browser->setFactoryForManager<QtVariantPropertyManager>(manager.get(), factory.get());
         browser->resize(420, 400);
     }
-    void show()
-    {
-        browser->show();
-        QApplication::setActiveWindow(browser.get());
-        QVERIFY(QTest::qWaitForWindowActive(browser.get()));
-    }
+    void show() { showActive(browser.get()); }
     QtVariantProperty *add(int type, const char *name, const QVariant &value = QVariant())
     {
         QtVariantProperty *property = manager->addProperty(type, QLatin1String(name));
@@ -262,14 +263,9 @@ private slots:
     void propertyTree()
     {
         auto *manager = new QtVariantPropertyManager;
-        auto add = [manager](const char *name) {
-            return manager->addProperty(QtVariantPropertyManager::groupTypeId(),
-                                        QLatin1String(name));
-        };
-        QtVariantProperty *group = add("group");
-        QtVariantProperty *a = add("a");
-        QtVariantProperty *b = add("b");
-        QtVariantProperty *c = add("c");
+        QtProperty *group, *a, *b, *c;
+        for (QtProperty **property : {&group, &a, &b, &c})
+            *property = manager->addProperty(QtVariantPropertyManager::groupTypeId());
         group->addSubProperty(a);
         group->addSubProperty(c);
         group->insertSubProperty(b, a);
@@ -380,49 +376,42 @@ private slots:
         QFETCH(int, type);
         QFETCH(QString, steps);
         const QStringList step = steps.split(QLatin1Char(' '));
-        const QString open = step.at(0);
-        const char *editorClass = type == QMetaType::Int ? "QSpinBox" : "QLineEdit";
-
         Pane pane;
         QtTreePropertyBrowser *browser = pane.browser.get();
+        QTreeWidget *tree = treeOf(browser);
         QtBrowserItem *above = browser->topLevelItem(pane.add(QMetaType::QString, "above"));
-        QtVariantProperty *property = pane.add(type, "p");
-        const QString before = property->valueText();
+        const QString before = pane.add(type, "p")->valueText();
         pane.show();
         int written = 0;
         connect(pane.manager.get(), &QtVariantPropertyManager::valueChanged, this,
                 [&written] { ++written; });
-        if (open == QLatin1String("value") || open == QLatin1String("name")) {
-            openEditor(browser, "p", open == QLatin1String("value"));
+        if (step[0] == "value" || step[0] == "name") {
+            openEditor(browser, "p", step[0] == "value");
         } else {
             // Moving with the keyboard opens no editor; Enter and F2 do, as in any view.
             browser->setCurrentItem(above);
-            treeOf(browser)->setFocus();
-            QTest::keyClick(treeOf(browser), Qt::Key_Down);
+            tree->setFocus();
+            QTest::keyClick(tree, Qt::Key_Down);
             QVERIFY(!currentEditor(browser));
-            QTest::keyClick(treeOf(browser),
-                            open == QLatin1String("F2") ? Qt::Key_F2 : Qt::Key_Return);
+            QTest::keyClick(tree, step[0] == "F2" ? Qt::Key_F2 : Qt::Key_Return);
         }
         QPointer<QWidget> editor = currentEditor(browser);
         QVERIFY(editor);
-        QCOMPARE(browser->currentItem(), browser->topLevelItem(property));
-        QVERIFY2(editor->inherits(editorClass), editor->metaObject()->className());
-
+        QVERIFY2(editor->inherits(type == QMetaType::Int ? "QSpinBox" : "QLineEdit"),
+                 editor->metaObject()->className());
         QTRY_VERIFY(editor->hasFocus());
         QVERIFY(QMetaObject::invokeMethod(editor, "selectAll"));
-        QTest::keyClicks(editor, step.at(1));
+        QTest::keyClicks(editor, step[1]);
         QCOMPARE(written, 0); // nothing is written while typing
-        if (step.at(2) == QLatin1String("leave")) {
+        if (step[2] == "leave") {
             // A click on a name edits that row's value.
             QVERIFY(qobject_cast<QLineEdit *>(openEditor(browser, "above", 0)));
             QTRY_VERIFY(!editor);
         } else {
-            QTest::keyClick(editor,
-                            step.at(2) == QLatin1String("Enter") ? Qt::Key_Return : Qt::Key_Escape);
+            QTest::keyClick(editor, step[2] == "Enter" ? Qt::Key_Return : Qt::Key_Escape);
             QTest::qWait(1);
         }
-        const QString text = step.at(2) == QLatin1String("Escape") ? before : step.at(1);
-        QCOMPARE(rowValue(browser, "p"), text);
+        QCOMPARE(rowValue(browser, "p"), step[2] == "Escape" ? before : step[1]);
     }
 
     void editorsAndDialogs()
@@ -526,12 +515,8 @@ private slots:
         second.addProperty(text);
         second.addProperty(font);
 
-        one.show();
-        auto *editor = qobject_cast<QLineEdit *>(openEditor(first, "text"));
-        QVERIFY(editor);
-        QTRY_VERIFY(editor->hasFocus());
-        QTest::keyClicks(editor, QStringLiteral("shared"));
-        QTest::keyClick(editor, Qt::Key_Return);
+        text->setValue(QStringLiteral("shared"));
+        QCOMPARE(rowValue(first, "text"), QStringLiteral("shared"));
         QCOMPARE(rowValue(&second, "text"), QStringLiteral("shared"));
 
         first->removeProperty(text);
@@ -542,10 +527,9 @@ private slots:
         // Unsetting the factory in one browser leaves the other one editing.
         first->addProperty(text);
         first->unsetFactoryForManager(one.manager.get());
+        one.show();
         QVERIFY(!openEditor(first, "text"));
-        second.show();
-        QApplication::setActiveWindow(&second);
-        QVERIFY(QTest::qWaitForWindowActive(&second));
+        showActive(&second);
         QVERIFY(qobject_cast<QLineEdit *>(openEditor(&second, "text")));
     }
 

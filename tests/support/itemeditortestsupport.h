@@ -47,18 +47,17 @@ inline qdesigner_internal::PropertySheetStringValue stringOf(const QVariant &val
 
 inline QVariant iconValue(const QString &path)
 {
-    using namespace qdesigner_internal;
-    return QVariant::fromValue(PropertySheetIconValue(PropertySheetPixmapValue(path)));
+    return QVariant::fromValue(qdesigner_internal::PropertySheetIconValue(
+            qdesigner_internal::PropertySheetPixmapValue(path)));
 }
 
 inline QtVariantProperty *subProperty(QtProperty *property, const QString &name)
 {
     const QList<QtProperty *> subs = property->subProperties();
-    for (QtProperty *sub : subs) {
-        if (sub->propertyName() == name)
-            return static_cast<QtVariantProperty *>(sub);
-    }
-    return nullptr;
+    const auto named = std::find_if(subs.cbegin(), subs.cend(), [&name](QtProperty *sub) {
+        return sub->propertyName() == name;
+    });
+    return named != subs.cend() ? static_cast<QtVariantProperty *>(*named) : nullptr;
 }
 
 // Opens the value editor of a shown property and returns the first widget of type T in it.
@@ -71,11 +70,9 @@ T *openEditor(QtTreePropertyBrowser *browser, QtProperty *property)
     browser->editItem(items.first());
     settle();
     const QList<T *> editors = browser->findChildren<T *>();
-    for (T *editor : editors) {
-        if (editor->isVisibleTo(browser))
-            return editor;
-    }
-    return editors.isEmpty() ? nullptr : editors.first();
+    const auto shown = std::find_if(editors.cbegin(), editors.cend(),
+                                    [browser](T *editor) { return editor->isVisibleTo(browser); });
+    return shown != editors.cend() ? *shown : editors.value(0);
 }
 
 } // namespace CcTest
