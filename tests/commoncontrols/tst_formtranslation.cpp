@@ -227,35 +227,10 @@ private slots:
         QFETCH(QString, form);
         QFETCH(QString, context);
         QFETCH(bool, enabled);
-        QScopedPointer<QWidget> plain(load(form, false, false));
-        QVERIFY(plain);
-        const QStringList plainTexts = shownTexts(plain.data());
-
         QCoreApplication::installTranslator(&m_first);
         QScopedPointer<QWidget> loaded(load(form, enabled, false));
         QVERIFY(loaded);
-        const QStringList shown = shownTexts(loaded.data());
-        const QSet<QString> untranslated = untranslatedTexts(form);
-        QVERIFY(!untranslated.isEmpty());
-        const QSet<QString> own = ownTexts(loaded.data());
-        if (!enabled)
-            QCOMPARE(shown, plainTexts);
-        for (const Message &message : qAsConst(m_messages)) {
-            if (message.context != context)
-                continue;
-            // Shown translated, and nowhere as it was written (unless a text marked
-            // untranslated, or one a widget shows of its own, is the same).
-            const QString expected = enabled ? first(message.source) : message.source;
-            QVERIFY2(shown.contains(expected), qPrintable(message.source));
-            if (enabled && !untranslated.contains(message.source) && !own.contains(message.source))
-                QVERIFY2(!shown.contains(message.source), qPrintable(message.source));
-        }
-        // What is marked untranslated shows as written.
-        for (const QString &text : untranslated) {
-            QVERIFY2(!shown.contains(first(text)), qPrintable(text));
-            if (plainTexts.contains(text))
-                QVERIFY2(shown.contains(text), qPrintable(text));
-        }
+        checkShown(form, context, shownTexts(loaded.data()), enabled ? first : nullptr);
     }
 
     void languageChange_data() { formRows("follow", ", not following"); }
@@ -279,15 +254,7 @@ private slots:
             return;
         }
         QCOMPARE(after.filter(QStringLiteral("«")), QStringList());
-        for (const Message &message : qAsConst(m_messages)) {
-            if (message.context == context)
-                QVERIFY2(after.contains(second(message.source)), qPrintable(message.source));
-        }
-        const QSet<QString> untranslated = untranslatedTexts(form);
-        for (const QString &text : untranslated) {
-            QVERIFY2(!after.contains(second(text)), qPrintable(text));
-            QCOMPARE(after.contains(text), before.contains(text));
-        }
+        checkShown(form, context, after, second);
         // The page group's boxes show their pages' new titles.
         if (form == exampleForm) {
             QStringList boxTitles;
@@ -298,7 +265,6 @@ private slots:
             QCOMPARE(boxTitles, QStringList({"‹Lists›", "‹Tables›", "‹Notes›"}));
         }
     }
-
     void translatorAskedForTranslatableTextsOnly()
     {
         // Every translatable text of the forms is asked for in its form's context with its
@@ -359,6 +325,36 @@ private slots:
     }
 
 private:
+    // What a form loaded with translator, or without one (null), shows: each of the context's
+    // messages translated, and nowhere as it was written (unless a text marked untranslated, or
+    // one a widget shows of its own, is the same); a text marked untranslated as written,
+    // wherever the form loaded without translation shows it. Without translation: that form.
+    void checkShown(const QString &form, const QString &context, const QStringList &shown,
+                    QString (*translated)(const QString &))
+    {
+        QScopedPointer<QWidget> plain(load(form, false, false));
+        QVERIFY(plain);
+        const QStringList plainTexts = shownTexts(plain.data());
+        if (!translated) {
+            QCOMPARE(shown, plainTexts);
+            return;
+        }
+        const QSet<QString> untranslated = untranslatedTexts(form);
+        QVERIFY(!untranslated.isEmpty());
+        const QSet<QString> own = ownTexts(plain.data());
+        for (const Message &message : qAsConst(m_messages)) {
+            if (message.context != context)
+                continue;
+            QVERIFY2(shown.contains(translated(message.source)), qPrintable(message.source));
+            if (!untranslated.contains(message.source) && !own.contains(message.source))
+                QVERIFY2(!shown.contains(message.source), qPrintable(message.source));
+        }
+        for (const QString &text : untranslated) {
+            QVERIFY2(!shown.contains(translated(text)), qPrintable(text));
+            QCOMPARE(shown.contains(text), plainTexts.contains(text));
+        }
+    }
+
     // The example form as ccpreview renders it with the options given.
     QImage preview(const QStringList &options)
     {
