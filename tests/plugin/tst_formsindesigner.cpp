@@ -137,6 +137,15 @@ void oddForm(const char *row, const char *className, const QString &inner, const
     QTest::newRow(row) << widgetXml(className, "odd", inner) << QString(held) << QString(warning);
 }
 
+// The form as Designer saves it after loading it.
+QString savedByDesigner(const QString &ui)
+{
+    QDesignerFormWindowInterface *form = createFormWindow(ui);
+    const QString saved = form->contents();
+    closeFormWindow(form);
+    return saved;
+}
+
 QString losses(const char *road, const QByteArray &input, const RoundTrip &trip)
 {
     QStringList lost;
@@ -171,21 +180,13 @@ private slots:
         m_widgets = collection->customWidgets();
     }
 
-    // The same 44 plug-ins in the same order on every call, the collection's children, each
-    // of its own class.
+    // The same 44 plug-ins in the same order on every call, the collection's children.
     void loadsOneCollection()
     {
         auto *collection = qobject_cast<QDesignerCustomWidgetCollectionInterface *>(m_collection);
         QCOMPARE(m_widgets.size(), widgetCount);
         QCOMPARE(collection->customWidgets(), m_widgets);
-        const QObjectList plugins = m_collection->children();
-        QCOMPARE(plugins.size(), widgetCount);
-        for (int i = 0; i < widgetCount; ++i) {
-            QCOMPARE(QLatin1String(plugins.at(i)->metaObject()->className()),
-                     widgetNames.at(i) + QLatin1String("Plugin"));
-            QCOMPARE(plugins.at(i)->qt_metacast(QDesignerCustomWidgetInterface_iid),
-                     static_cast<void *>(m_widgets.at(i)));
-        }
+        QCOMPARE(m_collection->children().size(), widgetCount);
     }
 
     void eachWidget_data()
@@ -195,12 +196,17 @@ private slots:
             QTest::newRow(qPrintable(widgetNames.at(i))) << i;
     }
 
-    // The widget box's entry: its group follows the include file, and the default XML it
-    // drops makes a widget of the class on a form, which saves the default's object name.
+    // The plug-in, the collection's child of its own class. The widget box's entry: its group
+    // follows the include file, and the default XML it drops makes a widget of the class on a
+    // form, which saves the default's object name.
     void eachWidget()
     {
         QFETCH(int, index);
         QDesignerCustomWidgetInterface *plugin = m_widgets.at(index);
+        QObject *child = m_collection->children().at(index);
+        QCOMPARE(QLatin1String(child->metaObject()->className()),
+                 widgetNames.at(index) + QLatin1String("Plugin"));
+        QCOMPARE(child->qt_metacast(QDesignerCustomWidgetInterface_iid), static_cast<void *>(plugin));
         QCOMPARE(plugin->name(), QLatin1String("VoCc::") + widgetNames.at(index));
         QCOMPARE(plugin->group(),
                  QLatin1String(plugin->includeFile().contains(QLatin1String("emplate/"))
@@ -433,9 +439,7 @@ private slots:
         QVERIFY(file.open(QIODevice::ReadOnly));
         const QString original = QString::fromUtf8(file.readAll());
         QCOMPARE(original.count(QStringLiteral("<string notr=\"true\">fileOpen</string>")), 1);
-        QDesignerFormWindowInterface *form = createFormWindow(original);
-        QCOMPARE(form->contents(), original);
-        closeFormWindow(form);
+        QCOMPARE(savedByDesigner(original), original);
     }
 
     void translationMarksSurviveDesigner()
@@ -450,9 +454,7 @@ private slots:
                  qPrintable(before.join(QLatin1Char('\n'))));
         QVERIFY(before.contains(QStringLiteral("One | menu | grid | ")));
         QVERIFY(before.filter(QStringLiteral("code")).isEmpty());
-        QDesignerFormWindowInterface *form = createFormWindow(original);
-        const QString saved = form->contents();
-        closeFormWindow(form);
+        const QString saved = savedByDesigner(original);
         QCOMPARE(linguistMessages(saved), before);
         const QRegularExpression ids(QStringLiteral(" id=\"cc\\.[a-z.]+\""));
         QCOMPARE(original.count(ids), 11);
@@ -496,9 +498,7 @@ private slots:
         QFETCH(QString, held);
         QFETCH(QString, warning);
         const WarningLog log;
-        QDesignerFormWindowInterface *form = createFormWindow(formXml(body));
-        const QString saved = form->contents();
-        closeFormWindow(form);
+        const QString saved = savedByDesigner(formXml(body));
         QVERIFY2(saved.contains(held), qPrintable(saved));
         QCOMPARE(log.warnings, warning.isEmpty() ? QStringList() : QStringList(warning));
     }
