@@ -183,8 +183,9 @@ private slots:
         for (QTranslator *translator : {&m_first, &m_second}) {
             const bool isFirst = translator == &m_first;
             QString filled = untranslated;
-            filled.replace(unfinished, QStringLiteral("\\1<translation>%1</translation>")
-                                               .arg((isFirst ? first : second)(QStringLiteral("\\2"))));
+            filled.replace(unfinished,
+                           QStringLiteral("\\1<translation>%1</translation>")
+                                   .arg((isFirst ? first : second)(QStringLiteral("\\2"))));
             QCOMPARE(filled.count(QStringLiteral("<translation>")), m_messages.size());
             const QString base = m_folder.filePath(QLatin1String(isFirst ? "first" : "second"));
             QFile out(base + QStringLiteral(".ts"));

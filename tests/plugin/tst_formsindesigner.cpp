@@ -100,7 +100,8 @@ QString markedEntries()
     for (const char *className :
          {"VoCc::OptionButtons", "VoCc::OptionRadios", "VoCc::CheckableTextComboBox"})
         body += widgetXml(className, className + 6, options);
-    body += widgetXml("VoCc::OptionComboBox", "optionCombo", itemXml(marked("text", "Gamma", "gamma")));
+    body += widgetXml("VoCc::OptionComboBox", "optionCombo",
+                      itemXml(marked("text", "Gamma", "gamma")));
     body += widgetXml("VoCc::ComboBox", "combo", itemXml(marked("text", "Delta", "delta")));
     body += widgetXml("VoCc::MatrixPushButtons", "matrix", grid + options);
     body += widgetXml("VoCc::MatrixPopButtons", "popButtons",
@@ -206,7 +207,8 @@ private slots:
         QObject *child = m_collection->children().at(index);
         QCOMPARE(QLatin1String(child->metaObject()->className()),
                  widgetNames.at(index) + QLatin1String("Plugin"));
-        QCOMPARE(child->qt_metacast(QDesignerCustomWidgetInterface_iid), static_cast<void *>(plugin));
+        QCOMPARE(child->qt_metacast(QDesignerCustomWidgetInterface_iid),
+                 static_cast<void *>(plugin));
         QCOMPARE(plugin->name(), QLatin1String("VoCc::") + widgetNames.at(index));
         QCOMPARE(plugin->group(),
                  QLatin1String(plugin->includeFile().contains(QLatin1String("emplate/"))
@@ -341,8 +343,8 @@ private slots:
         QDesignerFormWindowInterface *form = createFormWindow(groupForm(page("page")));
         auto *group = formChild<VoCc::DrawbackBoxGroup>(form, "group");
         QVERIFY(group);
-        auto *container =
-                qt_extension<QDesignerContainerExtension *>(form->core()->extensionManager(), group);
+        auto *container = qt_extension<QDesignerContainerExtension *>(
+                form->core()->extensionManager(), group);
         QVERIFY(container);
         QCOMPARE(container->widget(0)->objectName(), QStringLiteral("page"));
         // Its factory serves page groups only, under the Qt 5 identifier only.
@@ -507,9 +509,11 @@ private slots:
     {
         QTest::addColumn<QString>("form");
         const QString textA = propertyXml("text", "A");
-        const QString twoTexts = itemXml(propertyXml("text", "first") + propertyXml("text", "second"));
+        const QString twoTexts =
+                itemXml(propertyXml("text", "first") + propertyXml("text", "second"));
         const QString nested = itemXml(textA + itemXml(propertyXml("text", "inner")));
-        const QString grid = propertyXml("row", "2", "number") + propertyXml("column", "2", "number");
+        const QString grid =
+                propertyXml("row", "2", "number") + propertyXml("column", "2", "number");
         const auto title = [](const char *value, const char *kind = "string") {
             return propertyXml("windowTitle", value, kind);
         };
