@@ -37,18 +37,13 @@ QAbstractButton *optionButton(AbstractOptions *options, int index)
     return radios ? radios->button(index) : nullptr;
 }
 
-// An entry as "text|tool tip|icon|data", "*" in front of the current one; a row of buttons
-// shows no data.
-QString entry(const QString &text, const QString &toolTip, bool icon, bool current,
-              const QString &data)
+QString entry(const QString &text, const QString &toolTip, bool icon, bool current)
 {
-    return QStringList({(current ? QStringLiteral("*") : QString()) + text, toolTip,
-                        icon ? QStringLiteral("icon") : QString(), data})
-            .join(QLatin1Char('|'));
+    return (current ? QStringLiteral("*") : QString()) + text + QLatin1Char('|') + toolTip
+            + (icon ? QStringLiteral("|icon") : QString());
 }
 
-// What a combo box or a row of buttons shows, entry by entry, and what it should show of its
-// lists: every entry, an icon where the file is there.
+// What a combo box or a row of buttons shows, entry by entry ("*" marks the current one).
 QString shown(AbstractOptions *options)
 {
     QStringList shown;
@@ -56,21 +51,26 @@ QString shown(AbstractOptions *options)
         const QComboBox *box = combo->comboBox();
         for (int i = 0; i < box->count(); ++i)
             shown << entry(box->itemText(i), box->itemData(i, Qt::ToolTipRole).toString(),
-                           !box->itemIcon(i).isNull(), box->currentIndex() == i,
-                           box->itemData(i).toString());
+                           !box->itemIcon(i).isNull(), box->currentIndex() == i)
+                            + QLatin1Char('|') + box->itemData(i).toString();
+    } else {
+        for (int i = 0; QAbstractButton *button = optionButton(options, i); ++i)
+            shown << entry(button->text(), button->toolTip(), !button->icon().isNull(),
+                           button->isChecked());
     }
-    for (int i = 0; QAbstractButton *button = optionButton(options, i); ++i)
-        shown << entry(button->text(), button->toolTip(), !button->icon().isNull(),
-                       button->isChecked(), QString());
     return shown.join(QLatin1Char(' '));
 }
+
+// What it should show of its lists: every entry, an icon where the file is there.
 QString expected(AbstractOptions *options)
 {
     QStringList expected;
     for (int i = 0; i < options->count(); ++i)
         expected << entry(options->textAt(i), options->toolTipAt(i),
-                          !QPixmap(options->iconAt(i)).isNull(), options->currentIndex() == i,
-                          qobject_cast<OptionComboBox *>(options) ? options->dataAt(i) : QString());
+                          !QPixmap(options->iconAt(i)).isNull(), options->currentIndex() == i)
+                        + (qobject_cast<OptionComboBox *>(options)
+                                   ? QLatin1Char('|') + options->dataAt(i)
+                                   : QString());
     return expected.join(QLatin1Char(' '));
 }
 
@@ -121,7 +121,8 @@ void checkGrid(Grid *grid)
     grid->setToolTips(numbered("tip ", 12));
     grid->setActionList(numbered("act", 12));
     QCOMPARE(grid->buttonCount(), 12);
-    QCOMPARE(grid->button(11)->text() + grid->button(11)->toolTip(), QStringLiteral("b11tip 11"));
+    QCOMPARE(grid->button(11)->text(), QStringLiteral("b11"));
+    QCOMPARE(grid->button(11)->toolTip(), QStringLiteral("tip 11"));
     QVERIFY(!grid->button(0)->icon().isNull());
     QVERIFY(grid->button(1)->icon().isNull());
     QVERIFY(!grid->button(12));
@@ -189,16 +190,9 @@ private slots:
                 if (options != &checkBox)
                     QCOMPARE(shown(options), expected(options));
             };
-            // A user's pick: a click on a button, a choice in a combo box's list.
-            const auto pick = [&](int index) {
-                if (QAbstractButton *button = optionButton(options, index))
-                    button->click();
-                else
-                    emit combo.comboBox()->activated(index);
-            };
             // The first list makes the first entry current. The lists stay as given; an entry
             // beyond a short list reads as empty.
-            options->setTextList({"a", "b", "c"});
+            options->setTextList({QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")});
             options->setIconList({okIcon, QStringLiteral("/no/such/icon.png")});
             options->setToolTips({QStringLiteral("tip a")});
             options->setDataList({"1", "", "3", "4"});
@@ -214,11 +208,13 @@ private slots:
             check(5, "5");
             if (options != &checkBox) {
                 // A user's pick; fewer entries by many leave those that stay working.
-                pick(1);
+                optionButton(options, 0) ? optionButton(options, 1)->click()
+                                         : emit combo.comboBox()->activated(1);
                 check(1, "1");
-                options->setTextList({"a", "b"});
+                options->setTextList({QStringLiteral("a"), QStringLiteral("b")});
                 check(1, "");
-                pick(0);
+                optionButton(options, 0) ? optionButton(options, 0)->click()
+                                         : emit combo.comboBox()->activated(0);
                 check(0, "0");
             }
             // A shrinking list keeps the current entry in range.
@@ -233,8 +229,8 @@ private slots:
     void optionCheckBoxChoosesBetweenTwoEntries()
     {
         OptionCheckBox box;
-        box.setTextList({"Yes", "No"});
-        box.setDataList({"1", "0"});
+        box.setTextList({QStringLiteral("Yes"), QStringLiteral("No")});
+        box.setDataList({QStringLiteral("1"), QStringLiteral("0")});
         QVERIFY(box.isChecked());
         QCOMPARE(box.checkBox()->text(), QStringLiteral("Yes"));
 
@@ -253,24 +249,21 @@ private slots:
         box.setCheckedTexts({QStringLiteral("Blue")});
         box.setItemTextList({"Red", "Green", "Blue"});
         box.setToolTips({QStringLiteral("warm")});
-        const auto toolTip = [&box] {
-            return box.comboBox()->itemData(0, Qt::ToolTipRole).toString();
-        };
         QCOMPARE(box.comboBox()->count(), 3);
         QCOMPARE(box.toolTips(), QStringList {QStringLiteral("warm")});
-        QCOMPARE(toolTip(), QStringLiteral("warm"));
+        QCOMPARE(box.comboBox()->itemData(0, Qt::ToolTipRole).toString(), QStringLiteral("warm"));
         QCOMPARE(box.checkedTexts(), QStringList {QStringLiteral("Blue")});
 
         QSignalSpy checkedChanged(&box, &CheckableTextComboBox::checkedTextsChanged);
         box.setChecked(0, true);
         QCOMPARE(checkedChanged.count(), 1);
-        QCOMPARE(box.checkedTexts(), QStringList({"Red", "Blue"}));
+        QCOMPARE(box.checkedTexts(), (QStringList {QStringLiteral("Red"), QStringLiteral("Blue")}));
         QCOMPARE(box.comboBox()->lineEdit()->text(), QStringLiteral("Red, Blue"));
 
         // New entries keep the checks of texts that stay, and show their tool tips.
-        box.setItemTextList({"Blue", "Black"});
+        box.setItemTextList({QStringLiteral("Blue"), QStringLiteral("Black")});
         QCOMPARE(box.checkedTexts(), QStringList {QStringLiteral("Blue")});
-        QCOMPARE(toolTip(), QStringLiteral("warm"));
+        QCOMPARE(box.comboBox()->itemData(0, Qt::ToolTipRole).toString(), QStringLiteral("warm"));
         box.setChecked(7, true); // outside: nothing happens
         QCOMPARE(box.checkedTexts(), QStringList {QStringLiteral("Blue")});
     }
@@ -278,7 +271,7 @@ private slots:
     void comboBoxActions()
     {
         ComboBox box;
-        box.addItems({"Open", "Save", "Close"});
+        box.addItems({QStringLiteral("Open"), QStringLiteral("Save"), QStringLiteral("Close")});
         box.setActionList({QStringLiteral("fileOpen"), QString()});
         QCOMPARE(box.actionAt(2), QString());
         QSignalSpy triggered(&box, &ComboBox::actionTriggered);
@@ -317,7 +310,7 @@ private slots:
         // The first menu entry is the cell's action; entries an application adds stay when the
         // actions change.
         MatrixPopButtons pop;
-        pop.setActionList({"drawLine", "", "drawSpline"});
+        pop.setActionList({QStringLiteral("drawLine"), QString(), QStringLiteral("drawSpline")});
         const auto menu = [&pop](int index) {
             QStringList texts;
             for (const QAction *action : pop.menu(index)->actions())
@@ -327,7 +320,7 @@ private slots:
         QCOMPARE(menu(0) + QLatin1Char('/') + menu(1), QStringLiteral("drawLine/"));
         QVERIFY(!pop.menu(pop.buttonCount()));
         pop.menu(2)->addAction(QStringLiteral("extra"));
-        pop.setActionList({"drawLine", "", "drawCurve"});
+        pop.setActionList({QStringLiteral("drawLine"), QString(), QStringLiteral("drawCurve")});
         QCOMPARE(menu(2), QStringLiteral("drawCurve,extra"));
         pop.setActionList({});
         QCOMPARE(menu(2), QStringLiteral("extra"));
