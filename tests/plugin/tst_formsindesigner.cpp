@@ -25,8 +25,7 @@
 #include <QtDesigner/private/shared_enums_p.h>
 
 using namespace qdesigner_internal;
-using CcTest::pagesOf;
-using CcTest::widgetXml;
+using namespace CcTest;
 
 namespace {
 
@@ -67,31 +66,12 @@ public:
 // A form holding a page group with the given pages, declared as Designer's widget box does.
 QString groupForm(const QString &pages)
 {
-    return CcTest::formXml(widgetXml("VoCc::DrawbackBoxGroup", "group", pages),
-                           CcTest::pageGroupDeclaration());
+    return formXml(widgetXml("VoCc::DrawbackBoxGroup", "group", pages), pageGroupDeclaration());
 }
 
-// Two of our widgets next to a plain Qt button, a layout and an action.
-const QString formWithExtras = CcTest::formXml(QStringLiteral(
-        "<action name=\"openAction\"/>"
-        "<widget class=\"QWidget\" name=\"holder\"><layout class=\"QVBoxLayout\" name=\"column\">"
-        " <item><widget class=\"VoCc::OptionButtons\" name=\"options\"/></item>"
-        " <item><widget class=\"QPushButton\" name=\"button\"/></item>"
-        "</layout></widget>"
-        "<widget class=\"VoCc::MatrixPushButtons\" name=\"matrix\"/>"));
-
-
-using CcTest::itemXml;
-using CcTest::propertyXml;
-
-// A row of keptOrSaid: a widget of the class holding inner, what the saved form must still
-// hold (nothing asked when empty), and the one warning loading and saving it gives, word for
-// word (none when empty).
-void oddForm(const char *row, const char *className, const QString &inner, const char *held,
-             const char *warning = "")
+QString page(const char *name, const QString &inner = QString())
 {
-    QTest::newRow(row) << CcTest::widgetXml(className, "odd", inner) << QString(held)
-                       << QString(warning);
+    return widgetXml("QWidget", name, inner);
 }
 
 // A string property marked as a form author marks one for translation.
@@ -105,9 +85,11 @@ QString markedProperty(const char *name, const char *text, const char *attribute
 // disambiguation, a translator's comment, an id, not to be translated.
 QString markedEntries()
 {
-    const char *commented = "comment=\"menu\" extracomment=\"note\" id=\"cc.%1\"";
-    const auto marked = [commented](const char *name, const char *text, const char *id) {
-        return markedProperty(name, text, qPrintable(QString::fromLatin1(commented).arg(QLatin1String(id))));
+    const auto marked = [](const char *name, const char *text, const char *id) {
+        const QString attributes =
+                QStringLiteral("comment=\"menu\" extracomment=\"note\" id=\"cc.%1\"")
+                        .arg(QLatin1String(id));
+        return markedProperty(name, text, qPrintable(attributes));
     };
     const QString untranslated = markedProperty("toolTip", "tip code", "notr=\"true\"");
     const QString options = itemXml(marked("text", "Alpha", "alpha") + untranslated)
@@ -115,43 +97,57 @@ QString markedEntries()
                       + marked("toolTip", "Beta tip", "beta.tip"));
     const QString grid = propertyXml("row", "1", "number") + propertyXml("column", "2", "number");
     QString body;
-    for (const char *className : {"VoCc::OptionButtons", "VoCc::OptionRadios",
-                                  "VoCc::CheckableTextComboBox"})
-        body += CcTest::widgetXml(className, className + 6, options);
-    body += CcTest::widgetXml("VoCc::OptionComboBox", "optionCombo",
-                              itemXml(marked("text", "Gamma", "gamma")));
-    body += CcTest::widgetXml("VoCc::ComboBox", "combo", itemXml(marked("text", "Delta", "delta")));
-    body += CcTest::widgetXml("VoCc::MatrixPushButtons", "matrix", grid + options);
-    body += CcTest::widgetXml(
-            "VoCc::MatrixPopButtons", "popButtons",
-            grid
-                    + QStringLiteral("<property name=\"textList\"><stringlist comment=\"menu\" "
-                                     "extracomment=\"grid\"><string>One</string><string>Two"
-                                     "</string></stringlist></property>")
-                    + itemXml(untranslated));
-    body += CcTest::widgetXml("VoCc::DrawbackBoxGroup", "group",
-                              CcTest::widgetXml("QWidget", "page",
-                                                marked("windowTitle", "Page title", "page")));
-    return CcTest::formXml(body, CcTest::pageGroupDeclaration());
+    for (const char *className :
+         {"VoCc::OptionButtons", "VoCc::OptionRadios", "VoCc::CheckableTextComboBox"})
+        body += widgetXml(className, className + 6, options);
+    body += widgetXml("VoCc::OptionComboBox", "optionCombo",
+                      itemXml(marked("text", "Gamma", "gamma")));
+    body += widgetXml("VoCc::ComboBox", "combo", itemXml(marked("text", "Delta", "delta")));
+    body += widgetXml("VoCc::MatrixPushButtons", "matrix", grid + options);
+    body += widgetXml("VoCc::MatrixPopButtons", "popButtons",
+                      grid
+                              + QStringLiteral("<property name=\"textList\"><stringlist "
+                                               "comment=\"menu\" extracomment=\"grid\"><string>"
+                                               "One</string><string>Two</string></stringlist>"
+                                               "</property>")
+                              + itemXml(untranslated));
+    body += widgetXml("VoCc::DrawbackBoxGroup", "group",
+                      page("page", marked("windowTitle", "Page title", "page")));
+    return formXml(body, pageGroupDeclaration());
+}
+
+QString stringsXml(const char *name, const QStringList &strings)
+{
+    return QStringLiteral("<property name=\"%1\"><stringlist><string>%2</string></stringlist>"
+                          "</property>")
+            .arg(QLatin1String(name), strings.join(QLatin1String("</string><string>")));
 }
 
 // A row of everyValueKeptOrNamed: a form of one widget of the class holding inner.
 void formOf(const char *row, const char *className, const QString &inner)
 {
-    QTest::newRow(row) << CcTest::formXml(CcTest::widgetXml(className, "odd", inner),
-                                          CcTest::pageGroupDeclaration());
+    QTest::newRow(row) << formXml(widgetXml(className, "odd", inner), pageGroupDeclaration());
 }
 
-QString stringsXml(const char *name, const QStringList &strings)
+// A row of keptOrSaid: a widget of the class holding inner, what the saved form must still
+// hold (nothing asked when empty), and the one warning loading and saving it gives, word for
+// word (none when empty).
+void oddForm(const char *row, const char *className, const QString &inner, const char *held,
+             const char *warning = "")
 {
-    QString list;
-    for (const QString &string : strings)
-        list += QStringLiteral("<string>%1</string>").arg(string);
-    return QStringLiteral("<property name=\"%1\"><stringlist>%2</stringlist></property>")
-            .arg(QLatin1String(name), list);
+    QTest::newRow(row) << widgetXml(className, "odd", inner) << QString(held) << QString(warning);
 }
 
-QString losses(const char *road, const QByteArray &input, const CcTest::RoundTrip &trip)
+// The form as Designer saves it after loading it.
+QString savedByDesigner(const QString &ui)
+{
+    QDesignerFormWindowInterface *form = createFormWindow(ui);
+    const QString saved = form->contents();
+    closeFormWindow(form);
+    return saved;
+}
+
+QString losses(const char *road, const QByteArray &input, const RoundTrip &trip)
 {
     QStringList lost;
     if (!trip.loaded)
@@ -174,41 +170,24 @@ class TestFormsInDesigner : public QObject
     QObject *m_collection = nullptr;
     QList<QDesignerCustomWidgetInterface *> m_widgets;
 
-    QDesignerCustomWidgetInterface *plugin(const char *pluginClass) const
-    {
-        for (QObject *plugin : m_collection->children()) {
-            if (qstrcmp(plugin->metaObject()->className(), pluginClass) == 0)
-                return qobject_cast<QDesignerCustomWidgetInterface *>(plugin);
-        }
-        return nullptr;
-    }
-
 private slots:
     void initTestCase()
     {
-        CcTest::usePluginModulesOnly({QStringLiteral(CC_PLUGIN_MODULE)});
-        QCOMPARE(CcTest::designerCore()->pluginInstances().size(), 1);
-        m_collection = CcTest::designerCore()->pluginInstances().constFirst();
+        usePluginModulesOnly({QStringLiteral(CC_PLUGIN_MODULE)});
+        QCOMPARE(designerCore()->pluginInstances().size(), 1);
+        m_collection = designerCore()->pluginInstances().constFirst();
         auto *collection = qobject_cast<QDesignerCustomWidgetCollectionInterface *>(m_collection);
         QVERIFY(collection);
         m_widgets = collection->customWidgets();
     }
 
-    // The same 44 plug-ins in the same order on every call, the collection's children, each
-    // of its own class.
+    // The same 44 plug-ins in the same order on every call, the collection's children.
     void loadsOneCollection()
     {
         auto *collection = qobject_cast<QDesignerCustomWidgetCollectionInterface *>(m_collection);
         QCOMPARE(m_widgets.size(), widgetCount);
         QCOMPARE(collection->customWidgets(), m_widgets);
-        const QObjectList plugins = m_collection->children();
-        QCOMPARE(plugins.size(), widgetCount);
-        for (int i = 0; i < widgetCount; ++i) {
-            QCOMPARE(QLatin1String(plugins.at(i)->metaObject()->className()),
-                     widgetNames.at(i) + QLatin1String("Plugin"));
-            QCOMPARE(plugins.at(i)->qt_metacast(QDesignerCustomWidgetInterface_iid),
-                     static_cast<void *>(m_widgets.at(i)));
-        }
+        QCOMPARE(m_collection->children().size(), widgetCount);
     }
 
     void eachWidget_data()
@@ -218,41 +197,44 @@ private slots:
             QTest::newRow(qPrintable(widgetNames.at(i))) << i;
     }
 
-    // The widget box's entry: its group follows the include file, and the default XML it
-    // drops makes a widget of the class on a form, which saves the default's object name.
+    // The plug-in, the collection's child of its own class. The widget box's entry: its group
+    // follows the include file, and the default XML it drops makes a widget of the class on a
+    // form, which saves the default's object name.
     void eachWidget()
     {
         QFETCH(int, index);
         QDesignerCustomWidgetInterface *plugin = m_widgets.at(index);
+        QObject *child = m_collection->children().at(index);
+        QCOMPARE(QLatin1String(child->metaObject()->className()),
+                 widgetNames.at(index) + QLatin1String("Plugin"));
+        QCOMPARE(child->qt_metacast(QDesignerCustomWidgetInterface_iid),
+                 static_cast<void *>(plugin));
         QCOMPARE(plugin->name(), QLatin1String("VoCc::") + widgetNames.at(index));
-        const bool inTemplates =
-                plugin->includeFile().contains(QLatin1String("emplate/"), Qt::CaseSensitive);
         QCOMPARE(plugin->group(),
-                 QLatin1String(inTemplates ? "Tarn Template Widgets" : "Tarn Widgets"));
+                 QLatin1String(plugin->includeFile().contains(QLatin1String("emplate/"))
+                                       ? "Tarn Template Widgets"
+                                       : "Tarn Widgets"));
         // A container's default comes inside <ui>, with the declaration of its page method.
         QString dropped = plugin->domXml();
         dropped = dropped.mid(dropped.indexOf(QLatin1String("<widget ")));
         dropped.truncate(dropped.lastIndexOf(QLatin1String("</widget>")) + 9);
-        static const QRegularExpression opening(
-                QStringLiteral("^<widget class=\"([^\"]+)\" name=\"([^\"]+)\">"));
-        const QRegularExpressionMatch widget = opening.match(dropped);
+        const QRegularExpressionMatch widget =
+                QRegularExpression(QStringLiteral("^<widget class=\"([^\"]+)\" name=\"([^\"]+)\">"))
+                        .match(dropped);
         QVERIFY2(widget.hasMatch(), qPrintable(plugin->domXml()));
         QCOMPARE(widget.captured(1), plugin->name());
-        const QString objectName = widget.captured(2);
-        QDesignerFormWindowInterface *form = CcTest::createFormWindow(CcTest::formXml(dropped));
-        QWidget *made = CcTest::formChild(form, qPrintable(objectName));
+        QDesignerFormWindowInterface *form = createFormWindow(formXml(dropped));
+        QWidget *made = formChild(form, qPrintable(widget.captured(2)));
         QVERIFY(made);
         QVERIFY(made->inherits(qPrintable(plugin->name())));
-        QVERIFY(form->contents().contains(QStringLiteral("<widget class=\"%1\" name=\"%2\">")
-                                                  .arg(plugin->name(), objectName)));
-        CcTest::closeFormWindow(form);
+        QVERIFY(form->contents().contains(widget.captured(0)));
+        closeFormWindow(form);
     }
 
     void propertyEditsRepaintOncePerCreatedWidget()
     {
-        QDesignerPropertyEditorInterface *editor = CcTest::designerCore()->propertyEditor();
-        QDesignerCustomWidgetInterface *listViews = plugin("ListViewPlugin");
-        QVERIFY(listViews);
+        QDesignerPropertyEditorInterface *editor = designerCore()->propertyEditor();
+        QDesignerCustomWidgetInterface *listViews = m_widgets.at(widgetNames.indexOf("ListView"));
         countedObject = dynamic_cast<QObject *>(listViews);
         static QSignalSpyCallbackSet hooks = {nullptr, countSlot, nullptr, nullptr};
         qt_register_signal_spy_callbacks(&hooks);
@@ -264,10 +246,10 @@ private slots:
         };
         const int before = slotRunsPerEdit();
         // Three list views more: three more runs of the slot for one edit.
-        QDesignerFormWindowInterface *form = CcTest::createFormWindow(
-                CcTest::formXml(widgetXml("VoCc::ListView", "a") + widgetXml("VoCc::ListView", "b")
-                                + widgetXml("VoCc::ListView", "c")));
-        editor->setObject(CcTest::formChild(form, "a"));
+        QDesignerFormWindowInterface *form = createFormWindow(
+                formXml(widgetXml("VoCc::ListView", "a") + widgetXml("VoCc::ListView", "b")
+                        + widgetXml("VoCc::ListView", "c")));
+        editor->setObject(formChild(form, "a"));
         QCOMPARE(slotRunsPerEdit(), before + 3);
 
         // Each run repaints the edited list view. A form window is never shown here, so a
@@ -282,52 +264,50 @@ private slots:
         emit editor->propertyChanged(QStringLiteral("toolTip"), QStringLiteral("other"));
         QTRY_VERIFY(paints.paints > 0);
         editor->setObject(nullptr);
-        CcTest::closeFormWindow(form);
+        closeFormWindow(form);
     }
 
     void resourceSetActivationRefreshesPushButtonMatrices()
     {
         // A push-button matrix at the top and one nested in a group box, next to the other
-        // two kinds of matrix.
-        QDesignerFormWindowInterface *form = CcTest::createFormWindow(CcTest::formXml(
+        // two kinds of matrix. A stale button text shows whether the list was applied again.
+        QDesignerFormWindowInterface *form = createFormWindow(formXml(
                 widgetXml("VoCc::MatrixPushButtons", "outer")
                 + widgetXml("QGroupBox", "box", widgetXml("VoCc::MatrixPushButtons", "inner"))
                 + widgetXml("VoCc::MatrixCheckBoxes", "checks")
                 + widgetXml("VoCc::MatrixRadioButtons", "radios")));
-        const char *names[] = {"outer", "inner", "checks", "radios"};
         QList<QAbstractButton *> firstButtons;
-        for (const char *name : names) {
-            auto *matrix = CcTest::formChild<VoCc::AbstractMatrixOptions>(form, name);
+        for (const char *name : {"outer", "inner", "checks", "radios"}) {
+            auto *matrix = formChild<VoCc::AbstractMatrixOptions>(form, name);
             QVERIFY2(matrix, name);
             matrix->setTextList({QStringLiteral("one")});
-            // A stale button text shows whether the list was applied again.
             matrix->button(0)->setText(QStringLiteral("stale"));
             firstButtons << matrix->button(0);
         }
-        QtResourceModel *model = CcTest::designerCore()->resourceModel();
-        model->setCurrentResourceSet(model->addResourceSet(QStringList()));
-        QCoreApplication::processEvents(); // the matrices show list changes from the event loop
+        QtResourceModel *model = designerCore()->resourceModel();
+        const auto activateResourceSet = [model] {
+            model->setCurrentResourceSet(model->addResourceSet(QStringList()));
+            QCoreApplication::processEvents(); // the matrices show list changes from the event loop
+        };
+        activateResourceSet();
         QStringList texts;
         for (const QAbstractButton *button : firstButtons)
             texts << button->text();
         QCOMPARE(texts, QStringList({"one", "one", "stale", "stale"}));
 
         // No active form: nothing to walk.
-        CcTest::designerCore()->formWindowManager()->setActiveFormWindow(nullptr);
+        designerCore()->formWindowManager()->setActiveFormWindow(nullptr);
         firstButtons.at(0)->setText(QStringLiteral("stale"));
-        model->setCurrentResourceSet(model->addResourceSet(QStringList()));
-        QCoreApplication::processEvents();
+        activateResourceSet();
         QCOMPARE(firstButtons.at(0)->text(), QStringLiteral("stale"));
-        CcTest::closeFormWindow(form);
+        closeFormWindow(form);
     }
 
     void pageGroupTitles()
     {
-        QDesignerFormWindowInterface *form = CcTest::createFormWindow(
-                groupForm(widgetXml("QWidget", "p0") + widgetXml("QWidget", "p1")));
-        auto *group = CcTest::formChild<VoCc::DrawbackBoxGroup>(form, "group");
+        QDesignerFormWindowInterface *form = createFormWindow(groupForm(page("p0") + page("p1")));
+        auto *group = formChild<VoCc::DrawbackBoxGroup>(form, "group");
         QVERIFY(group);
-        QCOMPARE(group->count(), 2);
         // That a page switch selects the page on the form the page header clicks of the form
         // editing tests show.
         group->setCurrentIndex(1);
@@ -343,13 +323,13 @@ private slots:
         QVERIFY(titleChanged(group->widget(1)));
         QVERIFY(!titleChanged(group->widget(0)));
         QVERIFY(form->contents().contains(QLatin1String("<string>Renamed</string>")));
-        CcTest::closeFormWindow(form);
+        closeFormWindow(form);
 
         // Outside any form (a preview) a page switch and a title edit select nothing: the
         // title goes to the page switched to.
         QWidget holder;
         auto *preview = static_cast<VoCc::DrawbackBoxGroup *>(
-                plugin("DrawbackBoxGroupPlugin")->createWidget(&holder));
+                m_widgets.at(widgetNames.indexOf("DrawbackBoxGroup"))->createWidget(&holder));
         preview->addPage(new QWidget);
         preview->addPage(new QWidget);
         preview->setCurrentIndex(1);
@@ -360,14 +340,13 @@ private slots:
 
     void containerExtensionEditsPagesOnAForm()
     {
-        QDesignerFormWindowInterface *form =
-                CcTest::createFormWindow(groupForm(widgetXml("QWidget", "page")));
-        auto *group = CcTest::formChild<VoCc::DrawbackBoxGroup>(form, "group");
+        QDesignerFormWindowInterface *form = createFormWindow(groupForm(page("page")));
+        auto *group = formChild<VoCc::DrawbackBoxGroup>(form, "group");
         QVERIFY(group);
         auto *container = qt_extension<QDesignerContainerExtension *>(
                 form->core()->extensionManager(), group);
         QVERIFY(container);
-        QCOMPARE(container->count(), 1);
+        QCOMPARE(container->widget(0)->objectName(), QStringLiteral("page"));
         // Its factory serves page groups only, under the Qt 5 identifier only.
         auto *factory =
                 qobject_cast<QExtensionFactory *>(dynamic_cast<QObject *>(container)->parent());
@@ -377,7 +356,6 @@ private slots:
         QVERIFY(!factory->extension(&plain, QString(Q_TYPEID(QDesignerContainerExtension))));
         QVERIFY(!factory->extension(group, QString(Q_TYPEID(QDesignerTaskMenuExtension))));
         QVERIFY(!factory->extension(group, QStringLiteral("com.trolltech.Qt.Designer.Container")));
-        QCOMPARE(container->widget(0)->objectName(), QStringLiteral("page"));
 
         // Designer's "Insert Page" and "Delete Page" commands, undone and redone.
         QUndoStack *history = form->commandHistory();
@@ -422,35 +400,36 @@ private slots:
 
         // The saved form holds the pages Designer made.
         QCOMPARE(form->contents().count(QLatin1String("<widget class=\"QWidget\" name=\"page")), 3);
-        CcTest::closeFormWindow(form);
+        closeFormWindow(form);
     }
+
     // What the extension forwards to the form builder is shown by the round trips of the
-    // example form and of every edited widget; here, which objects get one.
+    // example form and of every edited widget; here, which objects get one: every widget, Qt's
+    // own too, and no action or layout.
     void extraInfoForEveryWidget()
     {
-        QDesignerFormEditorInterface *core = CcTest::designerCore();
-        QDesignerFormWindowInterface *form = CcTest::createFormWindow(formWithExtras);
-        QWidget *main = form->mainContainer();
+        QDesignerFormEditorInterface *core = designerCore();
+        QDesignerFormWindowInterface *form = createFormWindow(formXml(
+                QStringLiteral("<action name=\"openAction\"/>")
+                + widgetXml("QWidget", "holder",
+                            QStringLiteral("<layout class=\"QVBoxLayout\" name=\"column\"><item>%1"
+                                           "</item></layout>")
+                                    .arg(widgetXml("QPushButton", "button")))
+                + widgetXml("VoCc::MatrixPushButtons", "matrix")));
         const auto extraInfo = [core](QObject *object) {
             return qt_extension<QDesignerExtraInfoExtension *>(core->extensionManager(), object);
         };
-        int served = 0;
-        for (QWidget *widget : QWidgetList({main}) + main->findChildren<QWidget *>()) {
-            if (!form->isManaged(widget))
-                continue;
+        QWidget *main = form->mainContainer();
+        for (QWidget *widget : {main, formChild(form, "holder"), formChild(form, "button"),
+                                formChild(form, "matrix")}) {
             QDesignerExtraInfoExtension *extension = extraInfo(widget);
             QVERIFY2(extension, qPrintable(widget->objectName()));
             QCOMPARE(extension->widget(), widget);
             QCOMPARE(extension->core(), core);
-            ++served;
         }
-        QCOMPARE(served, 5); // Form, holder, options, button, matrix
-
-        // An action and a layout are not widgets.
         QVERIFY(!extraInfo(main->findChild<QAction *>(QStringLiteral("openAction"))));
         QVERIFY(!extraInfo(main->findChild<QLayout *>(QStringLiteral("column"))));
-
-        CcTest::closeFormWindow(form);
+        closeFormWindow(form);
     }
 
     void exampleFormSurvivesDesigner()
@@ -462,9 +441,7 @@ private slots:
         QVERIFY(file.open(QIODevice::ReadOnly));
         const QString original = QString::fromUtf8(file.readAll());
         QCOMPARE(original.count(QStringLiteral("<string notr=\"true\">fileOpen</string>")), 1);
-        QDesignerFormWindowInterface *form = CcTest::createFormWindow(original);
-        QCOMPARE(form->contents(), original);
-        CcTest::closeFormWindow(form);
+        QCOMPARE(savedByDesigner(original), original);
     }
 
     void translationMarksSurviveDesigner()
@@ -474,17 +451,15 @@ private slots:
         // none of the strings marked not to be translated. lupdate does not report ids from
         // forms; the saved form holds every one.
         const QString original = markedEntries();
-        const QStringList before = CcTest::linguistMessages(original);
+        const QStringList before = linguistMessages(original);
         QVERIFY2(before.contains(QStringLiteral("Alpha | menu | note | ")),
                  qPrintable(before.join(QLatin1Char('\n'))));
         QVERIFY(before.contains(QStringLiteral("One | menu | grid | ")));
         QVERIFY(before.filter(QStringLiteral("code")).isEmpty());
-        QDesignerFormWindowInterface *form = CcTest::createFormWindow(original);
-        const QString saved = form->contents();
-        CcTest::closeFormWindow(form);
-        QCOMPARE(CcTest::linguistMessages(saved), before);
+        const QString saved = savedByDesigner(original);
+        QCOMPARE(linguistMessages(saved), before);
         const QRegularExpression ids(QStringLiteral(" id=\"cc\\.[a-z.]+\""));
-        QCOMPARE(saved.count(ids), original.count(ids));
+        QCOMPARE(original.count(ids), 11);
         QCOMPARE(saved.count(ids), 11);
     }
 
@@ -519,29 +494,43 @@ private slots:
                 "bogus");
     }
 
+    void keptOrSaid()
+    {
+        QFETCH(QString, body);
+        QFETCH(QString, held);
+        QFETCH(QString, warning);
+        const WarningLog log;
+        const QString saved = savedByDesigner(formXml(body));
+        QVERIFY2(saved.contains(held), qPrintable(saved));
+        QCOMPARE(log.warnings, warning.isEmpty() ? QStringList() : QStringList(warning));
+    }
+
     void everyValueKeptOrNamed_data()
     {
         QTest::addColumn<QString>("form");
         const QString textA = propertyXml("text", "A");
-        const QString grid = propertyXml("row", "2", "number") + propertyXml("column", "2", "number");
+        const QString twoTexts =
+                itemXml(propertyXml("text", "first") + propertyXml("text", "second"));
+        const QString nested = itemXml(textA + itemXml(propertyXml("text", "inner")));
+        const QString grid =
+                propertyXml("row", "2", "number") + propertyXml("column", "2", "number");
+        const auto title = [](const char *value, const char *kind = "string") {
+            return propertyXml("windowTitle", value, kind);
+        };
         formOf("item text as a string list", "VoCc::OptionButtons",
                itemXml(stringsXml("text", {"listed", "twice"})) + itemXml(textA));
-        formOf("item property given twice", "VoCc::OptionRadios",
-               itemXml(propertyXml("text", "first") + propertyXml("text", "second")));
+        formOf("item property given twice", "VoCc::OptionRadios", twoTexts);
         formOf("unknown widget property", "VoCc::CheckableTextComboBox",
                propertyXml("zork", "7", "number") + propertyXml("note", "kept"));
-        formOf("combo box item text given twice", "VoCc::ComboBox",
-               itemXml(propertyXml("text", "first") + propertyXml("text", "second")));
+        formOf("combo box item text given twice", "VoCc::ComboBox", twoTexts);
         formOf("combo box item text as an icon", "VoCc::ComboBox",
                itemXml(textA + propertyXml("action", "a1"))
                        + itemXml(QStringLiteral("<property name=\"text\"><iconset><normaloff>x.png"
                                                 "</normaloff></iconset></property>")
                                  + propertyXml("action", "a2"))
                        + itemXml(propertyXml("text", "C") + propertyXml("action", "a3")));
-        formOf("item nested in an item", "VoCc::CheckableTextComboBox",
-               itemXml(textA + itemXml(propertyXml("text", "inner"))));
-        formOf("item nested in a combo box item", "VoCc::ComboBox",
-               itemXml(textA + itemXml(propertyXml("text", "inner"))));
+        formOf("item nested in an item", "VoCc::CheckableTextComboBox", nested);
+        formOf("item nested in a combo box item", "VoCc::ComboBox", nested);
         formOf("marked combo box item", "VoCc::ComboBox",
                itemXml(markedProperty("text", "Delta", "comment=\"menu\" extracomment=\"note\"")));
         formOf("unknown item property", "VoCc::OptionButtons",
@@ -549,14 +538,12 @@ private slots:
         formOf("items on a widget without entries", "VoCc::Pane",
                itemXml(propertyXml("text", "lost")));
         formOf("marks on data", "VoCc::OptionComboBox",
-               itemXml(textA + QStringLiteral("<property name=\"data\"><string notr=\"true\" "
-                                              "comment=\"why\">d1</string></property>")));
+               itemXml(textA + markedProperty("data", "d1", "notr=\"true\" comment=\"why\"")));
         formOf("pop-button text list as one string", "VoCc::MatrixPopButtons",
-               grid + propertyXml("textList", "alone")
-                       + itemXml(propertyXml("toolTip", "tip")));
+               grid + propertyXml("textList", "alone") + itemXml(propertyXml("toolTip", "tip")));
         formOf("pop-button texts in the list and the items", "VoCc::MatrixPopButtons",
-               grid + stringsXml("textList", {"one", ""})
-                       + itemXml(propertyXml("text", "other")) + itemXml(propertyXml("text", "two")));
+               grid + stringsXml("textList", {"one", ""}) + itemXml(propertyXml("text", "other"))
+                       + itemXml(propertyXml("text", "two")));
         formOf("pop-button text list given twice", "VoCc::MatrixPopButtons",
                grid + stringsXml("textList", {"old"}) + stringsXml("textList", {"new"}));
         formOf("rows given twice", "VoCc::MatrixPushButtons",
@@ -570,24 +557,20 @@ private slots:
         formOf("current combo box item out of range", "VoCc::ComboBox",
                propertyXml("currentIndex", "2147483647") + itemXml(textA));
         formOf("current page out of range", "VoCc::DrawbackBoxGroup",
-               propertyXml("currentIndex", "4", "number")
-                       + CcTest::widgetXml("QWidget", "page", propertyXml("windowTitle", "only")));
+               propertyXml("currentIndex", "4", "number") + page("page", title("only")));
         formOf("marked page title", "VoCc::DrawbackBoxGroup",
-               CcTest::widgetXml("QWidget", "page",
-                                 markedProperty("windowTitle", "Title", "comment=\"c\" id=\"t\"")));
+               page("page", markedProperty("windowTitle", "Title", "comment=\"c\" id=\"t\"")));
         formOf("page title as a picture and a list", "VoCc::DrawbackBoxGroup",
-               CcTest::widgetXml("QWidget", "picture", propertyXml("windowTitle", "p.png", "pixmap"))
-                       + CcTest::widgetXml("QWidget", "list", stringsXml("windowTitle", {"a", "b"})));
+               page("picture", title("p.png", "pixmap"))
+                       + page("list", stringsXml("windowTitle", {"a", "b"})));
         formOf("page title given twice", "VoCc::DrawbackBoxGroup",
-               CcTest::widgetXml("QWidget", "page",
-                                 propertyXml("windowTitle", "first") + propertyXml("windowTitle", "second")));
+               page("page", title("first") + title("second")));
         formOf("page without a name titled by a picture", "VoCc::DrawbackBoxGroup",
-               CcTest::widgetXml("QWidget", "page", propertyXml("windowTitle", "first"))
+               page("page", title("first"))
                        + QStringLiteral("<widget class=\"QWidget\">%1</widget>")
-                                 .arg(propertyXml("windowTitle", "p.png", "pixmap")));
+                                 .arg(title("p.png", "pixmap")));
         formOf("pages of one name", "VoCc::DrawbackBoxGroup",
-               CcTest::widgetXml("QWidget", "page", propertyXml("windowTitle", "first"))
-                       + CcTest::widgetXml("QWidget", "page", propertyXml("windowTitle", "second")));
+               page("page", title("first")) + page("page", title("second")));
     }
 
     void everyValueKeptOrNamed()
@@ -597,23 +580,10 @@ private slots:
         // property and the value.
         QFETCH(QString, form);
         const QByteArray input = form.toUtf8();
-        const QString designer = losses("Designer", input, CcTest::throughDesigner(input));
+        const QString designer = losses("Designer", input, throughDesigner(input));
         QVERIFY2(designer.isEmpty(), qPrintable(designer));
-        const QString builder = losses("VoCc::FormBuilder", input, CcTest::throughFormBuilder(input));
+        const QString builder = losses("VoCc::FormBuilder", input, throughFormBuilder(input));
         QVERIFY2(builder.isEmpty(), qPrintable(builder));
-    }
-
-    void keptOrSaid()
-    {
-        QFETCH(QString, body);
-        QFETCH(QString, held);
-        QFETCH(QString, warning);
-        const CcTest::WarningLog log;
-        QDesignerFormWindowInterface *form = CcTest::createFormWindow(CcTest::formXml(body));
-        const QString saved = form->contents();
-        CcTest::closeFormWindow(form);
-        QVERIFY2(saved.contains(held), qPrintable(saved));
-        QCOMPARE(log.warnings, warning.isEmpty() ? QStringList() : QStringList(warning));
     }
 };
 
