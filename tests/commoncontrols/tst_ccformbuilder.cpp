@@ -469,8 +469,8 @@ private slots:
     void showsLongTextsCut()
     {
         // An entry keeps its whole text; widgets show 1,000 characters, its first 999 and an
-        // ellipsis. A combo box's items are its entries, so their texts are cut on loading,
-        // with one warning.
+        // ellipsis. A combo box's items are its entries, so their texts are shown cut, with
+        // one warning, and saved whole.
         const QString longText = QString(5000, QLatin1Char('x'));
         const QString item = itemXml(propertyXml("text", qPrintable(longText)));
         const QString body = widgetXml("VoCc::OptionButtons", "options", item)
@@ -484,7 +484,8 @@ private slots:
         QCOMPARE(log.warnings,
                  QStringList(QStringLiteral("VoCc::ComboBox \"combo\": property \"text\" of 2 "
                                             "item(s) has up to 5000 characters, more than the "
-                                            "1000 a widget shows; cut to 1000")));
+                                            "1000 a widget shows; shown cut to 1000, saved "
+                                            "whole")));
     }
 };
 

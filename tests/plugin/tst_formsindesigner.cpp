@@ -544,6 +544,10 @@ private slots:
         formOf("pop-button texts in the list and the items", "VoCc::MatrixPopButtons",
                grid + stringsXml("textList", {"one", ""}) + itemXml(propertyXml("text", "other"))
                        + itemXml(propertyXml("text", "two")));
+        formOf("pop-button item text beside the list's", "VoCc::MatrixPopButtons",
+               grid + stringsXml("textList", {"one", "", "three"})
+                       + itemXml(markedProperty("text", "one", "comment=\"own\""))
+                       + itemXml(markedProperty("text", "two", "comment=\"second\"")));
         formOf("pop-button text list given twice", "VoCc::MatrixPopButtons",
                grid + stringsXml("textList", {"old"}) + stringsXml("textList", {"new"}));
         formOf("rows given twice", "VoCc::MatrixPushButtons",
@@ -552,6 +556,12 @@ private slots:
                propertyXml("row", "-3", "number") + propertyXml("column", "2", "number"));
         formOf("columns not a number", "VoCc::MatrixCheckBoxes",
                propertyXml("row", "2", "number") + propertyXml("column", "many"));
+        formOf("marked strings the run-time writer saves plain", "VoCc::Pane",
+               markedProperty("toolTip", "Tip", "comment=\"c\" extracomment=\"e\"")
+                       + QStringLiteral("<property name=\"note\" stdset=\"0\"><string "
+                                        "comment=\"d\" id=\"n1\">kept</string></property>"));
+        formOf("combo box item text longer than shown", "VoCc::ComboBox",
+               itemXml(propertyXml("text", qPrintable(QString(1500, QLatin1Char('y'))))));
         formOf("current entry out of range", "VoCc::OptionButtons",
                propertyXml("currentIndex", "7", "number") + itemXml(textA));
         formOf("current combo box item out of range", "VoCc::ComboBox",
