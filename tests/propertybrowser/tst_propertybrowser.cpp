@@ -1,7 +1,8 @@
-// The property browser on its own. The variant manager: values and their texts, compound
-// values and their sub-properties, attributes, and the property tree. The tree browser as a
-// user meets it: rows that follow the properties, values edited in place with the mouse and
-// the keyboard, columns, and browsers, managers and factories going away in any order.
+// The property browser on its own, as far as the item editors' pane uses it. The variant
+// manager: values and their texts, compound values and their sub-properties, attributes. The
+// tree browser as a user meets it: how rows show their properties, values edited in place with
+// the mouse and the keyboard, columns, and browsers, managers and factories going away in any
+// order.
 
 #include "modalanswer.h"
 #include "qtcompat.h"
@@ -260,68 +261,6 @@ private slots:
         QCOMPARE(ratio->valueText(), QStringLiteral("0.6667"));
     }
 
-    void propertyTree()
-    {
-        auto *manager = new QtVariantPropertyManager;
-        QtProperty *group, *a, *b, *c;
-        for (QtProperty **property : {&group, &a, &b, &c})
-            *property = manager->addProperty(QtVariantPropertyManager::groupTypeId());
-        group->addSubProperty(a);
-        group->addSubProperty(c);
-        group->insertSubProperty(b, a);
-        group->insertSubProperty(c, nullptr); // already there: no second place
-        a->addSubProperty(group); // no property may end up inside itself
-        group->addSubProperty(group);
-        QCOMPARE(group->subProperties(), QList<QtProperty *>({a, b, c}));
-        QVERIFY(a->subProperties().isEmpty());
-
-        delete group; // leaves its children alone
-        QCOMPARE(manager->properties(), QSet<QtProperty *>({a, b, c}));
-        manager->addProperty(QMetaType::QFont);
-        manager->clear();
-        QVERIFY(manager->properties().isEmpty());
-        manager->addProperty(QMetaType::QFont);
-        delete manager; // deletes the properties it still has
-    }
-
-    void rowsFollowProperties()
-    {
-        Pane pane;
-        QtTreePropertyBrowser *browser = pane.browser.get();
-        QTreeWidget *tree = treeOf(browser);
-        QtVariantProperty *a = pane.manager->addProperty(QMetaType::Int, QStringLiteral("a"));
-        QtVariantProperty *b = pane.add(QMetaType::Int, "b");
-        QtVariantProperty *c = pane.manager->addProperty(QMetaType::Int, QStringLiteral("c"));
-        QVERIFY(!browser->addProperty(b)); // once only
-        QtBrowserItem *itemA = browser->insertProperty(a, nullptr);
-        QtBrowserItem *itemB = browser->topLevelItem(b);
-        QtBrowserItem *itemC = browser->insertProperty(c, b);
-        // Only after a property the browser shows.
-        QtVariantProperty *notShown = pane.manager->addProperty(QMetaType::Int);
-        QVERIFY(!browser->insertProperty(pane.manager->addProperty(QMetaType::Int), notShown));
-        QCOMPARE(browser->topLevelItems(), QList<QtBrowserItem *>({itemA, itemB, itemC}));
-        QCOMPARE(tree->topLevelItem(0)->text(0) + tree->topLevelItem(1)->text(0)
-                         + tree->topLevelItem(2)->text(0),
-                 QStringLiteral("abc"));
-        browser->clear();
-
-        // Sub-properties follow their parents; a property under two parents shows twice.
-        QtVariantProperty *group = pane.add(QtVariantPropertyManager::groupTypeId(), "group");
-        QtVariantProperty *other = pane.add(QtVariantPropertyManager::groupTypeId(), "other");
-        group->addSubProperty(c);
-        group->insertSubProperty(b, nullptr);
-        group->insertSubProperty(a, b);
-        other->addSubProperty(b);
-        QTreeWidgetItem *groupRow = tree->topLevelItem(0);
-        QCOMPARE(groupRow->child(0)->text(0) + groupRow->child(1)->text(0), QStringLiteral("ba"));
-        QCOMPARE(browser->items(b).size(), 2);
-        QCOMPARE(rows(browser, "b").size(), 2);
-        group->removeSubProperty(c);
-        delete b;
-        QCOMPARE(groupRow->childCount(), 1);
-        QCOMPARE(tree->topLevelItem(1)->childCount(), 0);
-    }
-
     void rowDisplay()
     {
         Pane pane;
@@ -347,15 +286,9 @@ private slots:
         font->setEnabled(true);
         QVERIFY(fontRow->child(2)->flags() & Qt::ItemIsEnabled);
 
-        // A group has no value: one cell across the row, darker when marked.
+        // A group has no value: one cell across the row.
         QVERIFY(groupRow->isFirstColumnSpanned());
         QVERIFY(!(groupRow->flags() & Qt::ItemIsEditable));
-        browser->setPropertiesWithoutValueMarked(true);
-        QCOMPARE(groupRow->background(0).color(), browser->palette().color(QPalette::Dark));
-
-        // Background colours are inherited by the items below.
-        browser->setBackgroundColor(browser->topLevelItem(font), Qt::yellow);
-        QCOMPARE(fontRow->child(0)->background(1).color(), QColor(Qt::yellow));
     }
 
     void editInPlace_data()
@@ -502,35 +435,6 @@ private slots:
         QApplication::sendEvent(header->viewport(), &move);
         QTest::mouseRelease(header->viewport(), Qt::LeftButton, {}, QPoint(border + 59, y));
         QCOMPARE(browser->splitterPosition(), 210);
-    }
-
-    void sharedProperty()
-    {
-        Pane one;
-        QtTreePropertyBrowser second;
-        second.setFactoryForManager<QtVariantPropertyManager>(one.manager.get(), one.factory.get());
-        QtTreePropertyBrowser *first = one.browser.get();
-        QtVariantProperty *text = one.add(QMetaType::QString, "text");
-        QtVariantProperty *font = one.add(QMetaType::QFont, "font");
-        second.addProperty(text);
-        second.addProperty(font);
-
-        text->setValue(QStringLiteral("shared"));
-        QCOMPARE(rowValue(first, "text"), QStringLiteral("shared"));
-        QCOMPARE(rowValue(&second, "text"), QStringLiteral("shared"));
-
-        first->removeProperty(text);
-        delete font;
-        QCOMPARE(treeOf(first)->topLevelItemCount(), 0);
-        QCOMPARE(treeOf(&second)->topLevelItemCount(), 1);
-
-        // Unsetting the factory in one browser leaves the other one editing.
-        first->addProperty(text);
-        first->unsetFactoryForManager(one.manager.get());
-        one.show();
-        QVERIFY(!openEditor(first, "text"));
-        showActive(&second);
-        QVERIFY(qobject_cast<QLineEdit *>(openEditor(&second, "text")));
     }
 
     void deletionOrders_data()
