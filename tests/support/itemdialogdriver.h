@@ -51,11 +51,10 @@ public:
     QStringList rows() const
     {
         QStringList texts;
-        for (int i = 0; m_list && i < m_list->count(); ++i)
-            texts.append(m_list->item(i)->text());
-        for (int r = 0; m_table && r < m_table->rowCount(); ++r) {
-            for (int c = 0; c < m_table->columnCount(); ++c)
-                texts.append(m_table->item(r, c) ? m_table->item(r, c)->text() : QString());
+        const QAbstractItemModel *model = view() ? view()->model() : nullptr;
+        for (int r = 0; model && r < model->rowCount(); ++r) {
+            for (int c = 0; c < model->columnCount(); ++c)
+                texts.append(model->index(r, c).data().toString());
         }
         return texts;
     }
