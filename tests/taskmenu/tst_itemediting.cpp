@@ -108,7 +108,6 @@ const QString popEntries = dimensions
 
 // What a user does in an editor: looks at it as it opens and makes a change (then Cancel),
 // makes a change and takes it back (then OK), and edits for real (then OK).
-
 void listOpened(Driver &dialog)
 {
     QCOMPARE(dialog.rows(), QStringList({"A", "B", "C"}));
