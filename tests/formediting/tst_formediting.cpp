@@ -3,9 +3,7 @@
 // click on a page header of a page group on the form switches to that page. That an item edit
 // is one step of the form's undo history the item editing tests show for every family.
 
-#include "designertestcore.h"
 #include "itemdialogdriver.h"
-#include "modalanswer.h"
 #include "pagegroup.h"
 #include "uixml.h"
 
@@ -14,7 +12,6 @@
 #include <QtDesigner>
 
 using namespace CcTest;
-using Driver = ItemDialogDriver;
 
 namespace {
 
@@ -22,13 +19,11 @@ namespace {
 QString pageGroupForm()
 {
     QString pages;
-    for (const char *title : {"A", "B", "C"}) {
-        const QByteArray page = QByteArray("page") + title;
-        const QByteArray label = QByteArray("label") + title;
-        pages += widgetXml("QWidget", page.constData(),
-                           propertyXml("windowTitle", title)
-                                   + widgetXml("QLabel", label.constData()));
-    }
+    for (const char *title : {"A", "B", "C"})
+        pages +=
+                widgetXml("QWidget", (QByteArray("page") + title).constData(),
+                          propertyXml("windowTitle", title)
+                                  + widgetXml("QLabel", (QByteArray("label") + title).constData()));
     return formXml(widgetXml("VoCc::DrawbackBoxGroup", "group", pages), pageGroupDeclaration());
 }
 
@@ -40,134 +35,53 @@ QStringList titlesOf(const VoCc::DrawbackBoxGroup *group)
     return titles;
 }
 
-// Orders of deletes and inserts in the page group's editor, on pages A, B and C.
-struct PageEdit
-{
-    const char *name;
-    void (*work)(Driver &);
-    QStringList titles; // after the edit
-    QVector<int> kept; // the original pages the group keeps, in its new order; -1 a new page
-    int pushes; // steps added to the undo history
-};
-
-const PageEdit pageEdits[] = {
-        {"delete last, New",
-         [](Driver &d) {
-             d.select(2);
-             d.click("deleteListItemButton");
-             d.select(1);
-             d.addRow(QStringLiteral("N"));
-         },
-         {"A", "B", "N"},
-         {0, 1, -1},
-         1},
-        {"delete middle, New",
-         [](Driver &d) {
-             d.select(1);
-             d.click("deleteListItemButton");
-             d.select(1);
-             d.addRow(QStringLiteral("N"));
-         },
-         {"A", "C", "N"},
-         {0, 2, -1},
-         1},
-        {"New, delete, New",
-         [](Driver &d) {
-             d.select(2);
-             d.addRow(QStringLiteral("N1"));
-             d.select(2);
-             d.click("deleteListItemButton");
-             d.select(2);
-             d.addRow(QStringLiteral("N2"));
-         },
-         {"A", "B", "N1", "N2"},
-         {0, 1, -1, -1},
-         1},
-        {"delete last two, New, New",
-         [](Driver &d) {
-             d.select(2);
-             d.click("deleteListItemButton");
-             d.select(1);
-             d.click("deleteListItemButton");
-             d.select(0);
-             d.addRow(QStringLiteral("N1"));
-             d.addRow(QStringLiteral("N2"));
-         },
-         {"A", "N1", "N2"},
-         {0, -1, -1},
-         1},
-        {"move up, New, New",
-         [](Driver &d) {
-             d.select(2);
-             d.click("moveListItemUpButton");
-             d.addRow(QStringLiteral("N1"));
-             d.addRow(QStringLiteral("N2"));
-         },
-         {"A", "C", "N1", "N2", "B"},
-         {0, 2, -1, -1, 1},
-         1},
-        {"moves and a New that cancel out",
-         [](Driver &d) {
-             d.select(1);
-             d.click("moveListItemUpButton");
-             d.click("moveListItemDownButton");
-             d.addRow(QStringLiteral("Gone"));
-             d.click("deleteListItemButton");
-         },
-         {"A", "B", "C"},
-         {0, 1, 2},
-         0},
-};
-
 // A page's header on the form: the title bar of its box.
 QWidget *headerOf(VoCc::DrawbackBoxGroup *group, int index)
 {
     return group->box(index)->findChild<QToolButton *>(QString(), Qt::FindDirectChildrenOnly);
 }
 
-// What a user does with the mouse on a page group with pages A, B and C, page A current, and
-// what the form shows then: the current page, the page selected (-1: none) and the form's
-// current widget, the one Designer's property editor shows (null: Designer's own business).
+// Orders of deletes, inserts and moves in the page group's editor on pages A, B and C, as the
+// driver plays them: the titles after the edit, the original pages the group keeps in its new
+// order (-1: a new page) and the steps added to the undo history.
+struct PageEdit
+{
+    const char *name, *script;
+    QStringList titles;
+    QVector<int> kept;
+    int pushes;
+};
+const PageEdit pageEdits[] = {
+        {"delete last, New", "s2 d s1 nN", {"A", "B", "N"}, {0, 1, -1}, 1},
+        {"delete middle, New", "s1 d s1 nN", {"A", "C", "N"}, {0, 2, -1}, 1},
+        {"New, delete, New", "s2 nN1 s2 d s2 nN2", {"A", "B", "N1", "N2"}, {0, 1, -1, -1}, 1},
+        {"delete last two, New, New", "s2 d s1 d s0 nN1 nN2", {"A", "N1", "N2"}, {0, -1, -1}, 1},
+        {"move up, New, New", "s2 u nN1 nN2", {"A", "C", "N1", "N2", "B"}, {0, 2, -1, -1, 1}, 1},
+        {"moves and a New that cancel out", "s1 u D nGone d", {"A", "B", "C"}, {0, 1, 2}, 0},
+};
+
+// What a user does with the mouse on a page group with pages A, B and C, page A current: a
+// press on a page's header (-1: on page A's label) and a release on a header (-2: outside the
+// widget pressed), and what the form shows then: the current page, the page selected (-1: none)
+// and the form's current widget, the one Designer's property editor shows (null: Designer's own
+// business).
 struct Clicks
 {
     const char *name;
-    void (*work)(VoCc::DrawbackBoxGroup *);
+    int pressed, released;
+    Qt::MouseButton button;
     int current, selected;
     const char *currentWidget;
 };
-
-void clickHeader(VoCc::DrawbackBoxGroup *group, int page, Qt::MouseButton button = Qt::LeftButton)
-{
-    QTest::mouseClick(headerOf(group, page), button);
-}
-
+const int outside = -2;
 const Clicks clicks[] = {
-        {"header of the last page", [](VoCc::DrawbackBoxGroup *g) { clickHeader(g, 2); }, 2, 2,
-         "pageC"},
-        {"header of the middle page", [](VoCc::DrawbackBoxGroup *g) { clickHeader(g, 1); }, 1, 1,
-         "pageB"},
-        {"header of the current page", [](VoCc::DrawbackBoxGroup *g) { clickHeader(g, 0); }, 0, -1,
-         "group"},
-        {"right button on a header",
-         [](VoCc::DrawbackBoxGroup *g) { clickHeader(g, 2, Qt::RightButton); }, 0, -1, nullptr},
-        {"pressed on one header, released on another",
-         [](VoCc::DrawbackBoxGroup *g) {
-             QTest::mousePress(headerOf(g, 1), Qt::LeftButton);
-             QTest::mouseRelease(headerOf(g, 2), Qt::LeftButton);
-         },
-         0, -1, "group"},
-        {"released outside the header",
-         [](VoCc::DrawbackBoxGroup *g) {
-             QWidget *header = headerOf(g, 2);
-             QTest::mousePress(header, Qt::LeftButton);
-             QTest::mouseRelease(header, Qt::LeftButton, {}, QPoint(-5, -5));
-         },
-         0, -1, "group"},
-        {"the page's label",
-         [](VoCc::DrawbackBoxGroup *g) {
-             QTest::mouseClick(g->widget(0)->findChild<QWidget *>(), Qt::LeftButton);
-         },
-         0, -1, "labelA"},
+        {"header of the last page", 2, 2, Qt::LeftButton, 2, 2, "pageC"},
+        {"header of the middle page", 1, 1, Qt::LeftButton, 1, 1, "pageB"},
+        {"header of the current page", 0, 0, Qt::LeftButton, 0, -1, "group"},
+        {"right button on a header", 2, 2, Qt::RightButton, 0, -1, nullptr},
+        {"pressed on one header, released on another", 1, 2, Qt::LeftButton, 0, -1, "group"},
+        {"released outside the header", 2, outside, Qt::LeftButton, 0, -1, "group"},
+        {"the page's label", -1, -1, Qt::LeftButton, 0, -1, "labelA"},
 };
 
 } // namespace
@@ -197,50 +111,45 @@ private slots:
     void newRowsMakeNewPages()
     {
         QFETCH(int, index);
-        const PageEdit &pageEdit = pageEdits[index];
+        const auto [name, script, titles, kept, pushes] = pageEdits[index];
         QDesignerFormWindowInterface *form = createFormWindow(pageGroupForm());
         const auto closeForm = qScopeGuard([form] { closeFormWindow(form); });
         auto *group = formChild<VoCc::DrawbackBoxGroup>(form, "group");
         QVERIFY(group);
         const QWidgetList original = pagesOf(group);
-        QCOMPARE(original.size(), 3);
         const int boxes = group->findChildren<VoCc::DrawbackBox *>().size();
 
-        QCOMPARE(edit(group, pageEdit.work), QString());
-        QCOMPARE(titlesOf(group), pageEdit.titles);
-        QCOMPARE(form->commandHistory()->count(), pageEdit.pushes);
-        if (pageEdit.pushes)
-            QCOMPARE(group->currentIndex(), pageEdit.titles.size() - 1);
+        QCOMPARE(edit(group, [script = script](ItemDialogDriver &dialog) { dialog.play(script); }),
+                 QString());
+        QCOMPARE(titlesOf(group), titles);
+        QCOMPARE(form->commandHistory()->count(), pushes);
+        if (pushes)
+            QCOMPARE(group->currentIndex(), titles.size() - 1);
         else
             QCOMPARE(group->findChildren<VoCc::DrawbackBox *>().size(), boxes);
         const QWidgetList edited = pagesOf(group);
-        QStringList names;
-        for (const QWidget *page : edited)
-            names << page->objectName();
-        QCOMPARE(QSet<QString>(names.cbegin(), names.cend()).size(), names.size());
-        QCOMPARE(edited.size(), pageEdit.kept.size());
-        QWidgetList newPages;
+        QSet<QString> names;
         for (int i = 0; i < edited.size(); ++i) {
-            const int kept = pageEdit.kept.at(i);
-            if (kept >= 0) {
-                QCOMPARE(edited.at(i), original.at(kept));
+            QWidget *page = edited.at(i);
+            const QByteArray name = page->objectName().toUtf8();
+            names << page->objectName();
+            if (kept.at(i) >= 0) {
+                QCOMPARE(page, original.at(kept.at(i)));
                 continue;
             }
-            QWidget *page = edited.at(i);
-            QVERIFY2(!original.contains(page), qPrintable(page->objectName()));
-            QVERIFY2(!newPages.contains(page), qPrintable(page->objectName()));
-            QVERIFY2(page->findChildren<QWidget *>().isEmpty(), qPrintable(page->objectName()));
-            QVERIFY(page->objectName().startsWith(QLatin1String("page")));
-            newPages << page;
+            QVERIFY2(!original.contains(page), name);
+            QVERIFY2(page->findChildren<QWidget *>().isEmpty(), name);
+            QVERIFY2(name.startsWith("page"), name);
         }
+        QCOMPARE(names.size(), edited.size());
         for (int i = 0; i < original.size(); ++i) {
-            if (!pageEdit.kept.contains(i))
+            if (!kept.contains(i))
                 QVERIFY(!original.at(i)->isVisibleTo(form));
         }
 
         form->commandHistory()->undo();
         QCOMPARE(pagesOf(group), original);
-        QCOMPARE(group->currentIndex(), pageEdit.pushes ? 2 : 0);
+        QCOMPARE(group->currentIndex(), pushes ? 2 : 0);
         QCOMPARE(titlesOf(group), QStringList({"A", "B", "C"}));
         form->commandHistory()->redo();
         QCOMPARE(pagesOf(group), edited);
@@ -271,9 +180,16 @@ private slots:
         form->clearSelection();
         settle();
 
-        clicks[index].work(group);
-        settle();
         const Clicks &click = clicks[index];
+        const auto target = [group](int page) {
+            return page >= 0 ? headerOf(group, page) : group->widget(0)->findChild<QWidget *>();
+        };
+        QTest::mousePress(target(click.pressed), click.button);
+        if (click.released == outside)
+            QTest::mouseRelease(target(click.pressed), click.button, {}, QPoint(-5, -5));
+        else
+            QTest::mouseRelease(target(click.released), click.button);
+        settle();
         QCOMPARE(group->currentIndex(), click.current);
         for (int i = 0; i < group->count(); ++i)
             QCOMPARE(form->cursor()->isWidgetSelected(group->widget(i)), i == click.selected);

@@ -4,21 +4,21 @@
 // the shared object that holds its type information. Once every form is closed, nothing of
 // ours may be left but the collection, its plug-ins and the extension factories.
 
-#include "designertestcore.h"
 #include "itemdialogdriver.h"
-#include "modalanswer.h"
 
 #include <nui/CommonControls/CcComboBox.hpp>
 #include <nui/CommonControls/CcDrawbackBoxGroup.hpp>
 #include <nui/CommonControls/CcMatrixButtons.hpp>
 
+#include <QtCore/private/qhooks_p.h>
 #include <QtDesigner>
 #include <QtTest>
-#include <QtCore/private/qhooks_p.h>
 
 #include <dlfcn.h>
 
 #include <typeinfo>
+
+using namespace CcTest;
 
 namespace {
 
@@ -28,28 +28,23 @@ const int formsPerRow = 10;
 
 QMutex trackedLock;
 QSet<QObject *> tracked;
-quintptr previousAdd = 0;
-quintptr previousRemove = 0;
+quintptr previousHooks[QHooks::LastHookIndex] = {};
 
-void objectAdded(QObject *object)
+// The hook for objects made (AddQObject) or deleted (RemoveQObject): tracks the object, then
+// calls the hook that was there before.
+template<int hook>
+void track(QObject *object)
 {
     {
         // Not held while the earlier hook runs: it may make objects of its own.
         QMutexLocker locker(&trackedLock);
-        tracked.insert(object);
+        if (hook == QHooks::AddQObject)
+            tracked.insert(object);
+        else
+            tracked.remove(object);
     }
-    if (previousAdd)
-        reinterpret_cast<QHooks::AddQObjectCallback>(previousAdd)(object);
-}
-
-void objectRemoved(QObject *object)
-{
-    {
-        QMutexLocker locker(&trackedLock);
-        tracked.remove(object);
-    }
-    if (previousRemove)
-        reinterpret_cast<QHooks::RemoveQObjectCallback>(previousRemove)(object);
+    if (previousHooks[hook])
+        reinterpret_cast<QHooks::AddQObjectCallback>(previousHooks[hook])(object);
 }
 
 const void *sharedObjectOf(const void *address)
@@ -66,8 +61,6 @@ QMap<QString, int> countsByClass(const QObjectList &objects)
     return counts;
 }
 
-using Driver = CcTest::ItemDialogDriver;
-
 } // namespace
 
 class TestLongSession : public QObject
@@ -77,13 +70,13 @@ private slots:
     void initTestCase()
     {
         // Tracking starts before the core exists, so the plug-ins and factories are seen too.
-        previousAdd = qtHookData[QHooks::AddQObject];
-        previousRemove = qtHookData[QHooks::RemoveQObject];
-        qtHookData[QHooks::AddQObject] = reinterpret_cast<quintptr>(&objectAdded);
-        qtHookData[QHooks::RemoveQObject] = reinterpret_cast<quintptr>(&objectRemoved);
+        std::copy(qtHookData, qtHookData + QHooks::LastHookIndex, previousHooks);
+        qtHookData[QHooks::AddQObject] = reinterpret_cast<quintptr>(&track<QHooks::AddQObject>);
+        qtHookData[QHooks::RemoveQObject] =
+                reinterpret_cast<quintptr>(&track<QHooks::RemoveQObject>);
 
-        CcTest::usePluginModulesOnly({QStringLiteral(CC_PLUGIN_MODULE)});
-        QVERIFY(CcTest::designerCore());
+        usePluginModulesOnly({QStringLiteral(CC_PLUGIN_MODULE)});
+        QVERIFY(designerCore());
         QFile file(QStringLiteral(CC_EXAMPLE_FORM));
         QVERIFY(file.open(QIODevice::ReadOnly));
         m_formXml = QString::fromUtf8(file.readAll());
@@ -99,8 +92,8 @@ private slots:
 
     void cleanupTestCase()
     {
-        qtHookData[QHooks::AddQObject] = previousAdd;
-        qtHookData[QHooks::RemoveQObject] = previousRemove;
+        for (const int hook : {QHooks::AddQObject, QHooks::RemoveQObject})
+            qtHookData[hook] = previousHooks[hook];
     }
 
     void formsLeaveNothingOfOursBehind_data()
@@ -114,12 +107,12 @@ private slots:
     void formsLeaveNothingOfOursBehind()
     {
         QFETCH(int, forms);
-        QDesignerFormEditorInterface *core = CcTest::designerCore();
+        QDesignerFormEditorInterface *core = designerCore();
         QObject *collection = core->pluginInstances().constFirst();
         QElapsedTimer clock;
         clock.start();
         for (int round = 0; round < forms; ++round) {
-            QDesignerFormWindowInterface *form = CcTest::createFormWindow(m_formXml);
+            QDesignerFormWindowInterface *form = createFormWindow(m_formXml);
             editForm(form);
             if (QTest::currentTestFailed())
                 return;
@@ -134,8 +127,8 @@ private slots:
                     QVERIFY2(onForm.contains(plugin->name()), qPrintable(plugin->name()));
                 QVERIFY(onForm.value(QStringLiteral("ExtraInfoExtension")) >= plugins.size());
             }
-            CcTest::closeFormWindow(form);
-            CcTest::settle();
+            closeFormWindow(form);
+            settle();
         }
         qInfo("%d forms in %lld ms", forms, clock.elapsed());
 
@@ -166,36 +159,29 @@ private:
     void editForm(QDesignerFormWindowInterface *form)
     {
         // Every widget of ours selected and a property of them all changed.
+        QWidget *main = form->mainContainer();
         QWidgetList ours;
-        for (QWidget *widget : form->mainContainer()->findChildren<QWidget *>()) {
+        form->clearSelection(false);
+        for (QWidget *widget : main->findChildren<QWidget *>()) {
             if (form->isManaged(widget)
-                && qstrncmp(widget->metaObject()->className(), "VoCc::", 6) == 0)
+                && QByteArray(widget->metaObject()->className()).startsWith("VoCc::")) {
                 ours << widget;
+                form->selectWidget(widget, true);
+            }
         }
         QVERIFY(ours.size() >= 44);
-        form->clearSelection(false);
-        for (QWidget *widget : qAsConst(ours))
-            form->selectWidget(widget, true);
         form->cursor()->setProperty(QStringLiteral("enabled"), false);
         QVERIFY(!ours.constLast()->isEnabled());
 
         // Item edits of a list, a page group and a matrix through their context-menu entries.
-        auto addEntry = [](Driver &dialog) {
-            dialog.addRow(QStringLiteral("n"));
-            dialog.typeProperty(QStringLiteral("text"), QStringLiteral("r"));
+        const auto addEntry = [](ItemDialogDriver &dialog) { dialog.play("nn ptext=r"); };
+        const auto growMatrix = [](ItemDialogDriver &dialog) {
+            const int rows = dialog.child<QSpinBox>("rowCounts")->value();
+            dialog.play(QStringLiteral("R%1 c0,0 ptoolTip=t").arg(rows + 1));
         };
-        QWidget *main = form->mainContainer();
-        QCOMPARE(CcTest::edit(main->findChild<VoCc::ComboBox *>(), addEntry), QString());
-        QCOMPARE(CcTest::edit(main->findChild<VoCc::DrawbackBoxGroup *>(), addEntry), QString());
-        QCOMPARE(CcTest::edit(main->findChild<VoCc::MatrixPushButtons *>(),
-                              [](Driver &dialog) {
-                                  dialog.stepTo("rowCounts",
-                                                dialog.child<QSpinBox>("rowCounts")->value() + 1);
-                                  dialog.selectCell(0, 0);
-                                  dialog.typeProperty(QStringLiteral("toolTip"),
-                                                      QStringLiteral("t"));
-                              }),
-                 QString());
+        QCOMPARE(edit(main->findChild<VoCc::ComboBox *>(), addEntry), QString());
+        QCOMPARE(edit(main->findChild<VoCc::DrawbackBoxGroup *>(), addEntry), QString());
+        QCOMPARE(edit(main->findChild<VoCc::MatrixPushButtons *>(), growMatrix), QString());
 
         // The property change, the list, the page group, the matrix (its counts in the same
         // step): all undone, all redone, saved.

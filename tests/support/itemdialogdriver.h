@@ -19,8 +19,8 @@ class ItemDialogDriver
 public:
     explicit ItemDialogDriver(QDialog *dialog)
         : m_dialog(dialog),
-          m_list(dialog->findChild<QListWidget *>(QStringLiteral("listWidget"))),
-          m_table(dialog->findChild<QTableWidget *>(QStringLiteral("tableWidget"))),
+          m_list(child<QListWidget>("listWidget")),
+          m_table(child<QTableWidget>("tableWidget")),
           m_pane(dialog->findChild<QTreeWidget *>())
     {
         if (!m_list && !m_table)
@@ -37,6 +37,10 @@ public:
     QDialog *dialog() const { return m_dialog; }
     QListWidget *list() const { return m_list; }
     QTableWidget *table() const { return m_table; }
+    QAbstractItemView *view() const
+    {
+        return m_list ? static_cast<QAbstractItemView *>(m_list) : m_table;
+    }
     template<class T>
     T *child(const char *name) const
     {
@@ -47,11 +51,10 @@ public:
     QStringList rows() const
     {
         QStringList texts;
-        for (int i = 0; m_list && i < m_list->count(); ++i)
-            texts.append(m_list->item(i)->text());
-        for (int r = 0; m_table && r < m_table->rowCount(); ++r) {
-            for (int c = 0; c < m_table->columnCount(); ++c)
-                texts.append(m_table->item(r, c) ? m_table->item(r, c)->text() : QString());
+        const QAbstractItemModel *model = view() ? view()->model() : nullptr;
+        for (int r = 0; model && r < model->rowCount(); ++r) {
+            for (int c = 0; c < model->columnCount(); ++c)
+                texts.append(model->index(r, c).data().toString());
         }
         return texts;
     }
@@ -70,47 +73,65 @@ public:
         return item ? item->text(1) : QStringLiteral("<no %1>").arg(name);
     }
 
-    void select(int row)
+    // Does what a script says, its actions apart by spaces and lettered as a failing random
+    // session prints them: "s1" selects row 1, "c0,2" the cell in row 0 and column 2, "nText"
+    // adds a row named Text, "rText" renames what is current, "d", "u" and "D" delete the
+    // current row or move it up or down, "R3" and "C2" step the row and column counts to 3 and 2,
+    // "pName=Value" types a property's value and "tName" clicks a check box property.
+    void play(const QString &script)
     {
-        if (!ok() || !m_list->item(row))
-            return fail(QStringLiteral("no row %1 to select").arg(row));
-        m_list->scrollToItem(m_list->item(row));
-        QTest::mouseClick(m_list->viewport(), Qt::LeftButton, {},
-                          m_list->visualItemRect(m_list->item(row)).center());
+        for (const QString &action : script.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
+            const char letter = action.at(0).toLatin1();
+            const QString arg = action.mid(1);
+            const QStringList args = arg.split(QRegularExpression(QStringLiteral("[,=]")));
+            if (letter == 's' || letter == 'c')
+                select(args.at(0).toInt(), args.value(1).toInt());
+            else if (letter == 'n')
+                addRow(arg);
+            else if (letter == 'r')
+                renameCurrent(arg);
+            else if (letter == 'p')
+                typeProperty(args.at(0), args.value(1));
+            else if (letter == 't')
+                toggleProperty(arg);
+            else if (letter == 'R' || letter == 'C')
+                stepTo(letter == 'R' ? "rowCounts" : "colCounts", arg.toInt());
+            else if (letter == 'd')
+                click("deleteListItemButton");
+            else if (letter == 'u' || letter == 'D')
+                click(letter == 'u' ? "moveListItemUpButton" : "moveListItemDownButton");
+            else
+                fail(QStringLiteral("no action %1").arg(action));
+        }
     }
-    void selectCell(int row, int column)
+
+    // Clicks a row of the list, or a cell of the table.
+    void select(int row, int column = 0)
     {
-        if (!ok())
+        QAbstractItemView *view = this->view();
+        const QModelIndex index = view ? view->model()->index(row, column) : QModelIndex();
+        if (!need(index.isValid(), QStringLiteral("no cell %1,%2 to select").arg(row).arg(column)))
             return;
-        const QModelIndex index = m_table->model()->index(row, column);
-        m_table->scrollTo(index);
-        QTest::mouseClick(m_table->viewport(), Qt::LeftButton, {},
-                          m_table->visualRect(index).center());
+        view->scrollTo(index);
+        QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, view->visualRect(index).center());
     }
     // Steps the spin box "rowCounts" or "colCounts" to value with the arrow keys.
     void stepTo(const char *spinBox, int value)
     {
         auto *spin = child<QSpinBox>(spinBox);
-        if (!ok() || !spin)
-            return fail(QStringLiteral("no spin box %1").arg(QLatin1String(spinBox)));
-        while (spin->value() != value) {
+        const QString name = QLatin1String(spinBox);
+        while (need(spin, QStringLiteral("no spin box ") + name) && spin->value() != value) {
             const int before = spin->value();
             QTest::keyClick(spin, before < value ? Qt::Key_Up : Qt::Key_Down);
-            if (spin->value() == before)
-                return fail(QStringLiteral("%1 stops at %2 before %3")
-                                    .arg(QLatin1String(spinBox))
-                                    .arg(before)
-                                    .arg(value));
+            need(spin->value() != before,
+                 QStringLiteral("%1 stops at %2 before %3").arg(name).arg(before).arg(value));
         }
     }
-    // Clicks one of "newListItemButton", "deleteListItemButton", "moveListItemUpButton",
-    // "moveListItemDownButton".
     void click(const char *button)
     {
         auto *target = child<QAbstractButton>(button);
-        if (!ok() || !target)
-            return fail(QStringLiteral("no button %1").arg(QLatin1String(button)));
-        QTest::mouseClick(target, Qt::LeftButton);
+        if (need(target, QStringLiteral("no button %1").arg(QLatin1String(button))))
+            QTest::mouseClick(target, Qt::LeftButton);
     }
     // New below the current row, named by typing into the in-place editor.
     void addRow(const QString &text)
@@ -123,27 +144,22 @@ public:
     {
         if (!ok())
             return;
-        QAbstractItemView *view = m_list ? static_cast<QAbstractItemView *>(m_list) : m_table;
-        QTest::keyClick(view, Qt::Key_F2);
-        typeIntoShownEditor(view->viewport(), text);
+        QTest::keyClick(view(), Qt::Key_F2);
+        typeIntoShownEditor(view()->viewport(), text);
     }
     // Types a value into a string property of the current row.
     void typeProperty(const QString &name, const QString &text)
     {
-        openPropertyEditor(name);
-        typeIntoShownEditor(m_pane->viewport(), text);
+        if (openPropertyEditor(name))
+            typeIntoShownEditor(m_pane->viewport(), text);
     }
     // Clicks a check box property (a string's "translatable") of the current row.
     void toggleProperty(const QString &name)
     {
-        if (!openPropertyEditor(name))
-            return;
-        const QList<QCheckBox *> boxes = m_pane->viewport()->findChildren<QCheckBox *>();
-        auto shown = std::find_if(boxes.cbegin(), boxes.cend(),
-                                  [](const QCheckBox *box) { return box->isVisible(); });
-        if (shown == boxes.cend())
-            return fail(QStringLiteral("no check box for %1").arg(name));
-        QTest::mouseClick(*shown, Qt::LeftButton);
+        QCheckBox *box =
+                openPropertyEditor(name) ? shownChild<QCheckBox>(m_pane->viewport()) : nullptr;
+        if (need(box, QStringLiteral("no check box for %1").arg(name)))
+            QTest::mouseClick(box, Qt::LeftButton);
         settle();
     }
     // Picks a file for an icon property of the current row through the file dialog.
@@ -159,15 +175,31 @@ public:
                     chooseFile = action;
             }
         }
-        if (!chooseFile)
-            return fail(QStringLiteral("no \"Choose File...\" for %1").arg(name));
-        if (!answerModal<QFileDialog>([chooseFile] { chooseFile->trigger(); },
-                                      [path](QFileDialog *dialog) { typeFileName(dialog, path); }))
-            fail(QStringLiteral("no file dialog for %1").arg(name));
+        if (need(chooseFile, QStringLiteral("no \"Choose File...\" for %1").arg(name)))
+            need(answerModal<QFileDialog>(
+                         [chooseFile] { chooseFile->trigger(); },
+                         [path](QFileDialog *dialog) { typeFileName(dialog, path); }),
+                 QStringLiteral("no file dialog for %1").arg(name));
         settle();
     }
 
 private:
+    // Whether the driver goes on: nothing failed so far and what it needs is there. When it
+    // is not there, what says what was looked for.
+    bool need(bool there, const QString &what)
+    {
+        if (ok() && !there)
+            fail(what);
+        return ok();
+    }
+    template<class T>
+    static T *shownChild(QWidget *parent)
+    {
+        const QList<T *> children = parent->findChildren<T *>();
+        auto shown = std::find_if(children.cbegin(), children.cend(),
+                                  [](const T *child) { return child->isVisible(); });
+        return shown == children.cend() ? nullptr : *shown;
+    }
     QTreeWidgetItem *propertyItem(const QString &name) const
     {
         const QStringList path = name.split(QLatin1Char('/'));
@@ -186,11 +218,9 @@ private:
     // Tells whether the property was there to open.
     bool openPropertyEditor(const QString &name)
     {
-        QTreeWidgetItem *item = propertyItem(name);
-        if (!ok() || !item) {
-            fail(QStringLiteral("no property %1").arg(name));
+        QTreeWidgetItem *item = ok() ? propertyItem(name) : nullptr;
+        if (!need(item, QStringLiteral("no property %1").arg(name)))
             return false;
-        }
         m_pane->scrollToItem(item);
         // A click on the value column opens the property's editor.
         const QHeaderView *header = m_pane->header();
@@ -204,24 +234,20 @@ private:
     // it held, and ends the editing with Return.
     void typeIntoShownEditor(QWidget *parent, const QString &text)
     {
-        if (!ok())
+        QLineEdit *edit = ok() ? shownChild<QLineEdit>(parent) : nullptr;
+        if (!need(edit, QStringLiteral("no editor open to type %1").arg(text)))
             return;
-        const QList<QLineEdit *> edits = parent->findChildren<QLineEdit *>();
-        auto shown = std::find_if(edits.cbegin(), edits.cend(),
-                                  [](const QLineEdit *edit) { return edit->isVisible(); });
-        if (shown == edits.cend())
-            return fail(QStringLiteral("no editor open to type %1").arg(text));
-        (*shown)->selectAll();
-        QTest::keyClick(*shown, Qt::Key_Backspace);
+        edit->selectAll();
+        QTest::keyClick(edit, Qt::Key_Backspace);
         for (const QChar c : text) {
             // QTest spells out ASCII only; other letters come as the text of a key of their own.
             if (c.unicode() < 128)
-                QTest::keyClick(*shown, c.toLatin1());
+                QTest::keyClick(edit, c.toLatin1());
             else
-                QTest::sendKeyEvent(QTest::Click, *shown, Qt::Key_unknown, QString(c),
+                QTest::sendKeyEvent(QTest::Click, edit, Qt::Key_unknown, QString(c),
                                     Qt::NoModifier);
         }
-        QTest::keyClick(*shown, Qt::Key_Return);
+        QTest::keyClick(edit, Qt::Key_Return);
         settle();
     }
 

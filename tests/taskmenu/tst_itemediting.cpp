@@ -14,9 +14,7 @@
 // CC_RANDOM_SESSIONS (default 300) sets how many sessions run, CC_RANDOM_SEED (default 1) the
 // seed of the first; session i uses seed + i. They run as data rows of 10 sessions each.
 
-#include "designertestcore.h"
 #include "itemdialogdriver.h"
-#include "modalanswer.h"
 #include "pagegroup.h"
 #include "testpictures.h"
 #include "uixml.h"
@@ -110,35 +108,23 @@ const QString popEntries = dimensions
 
 // What a user does in an editor: looks at it as it opens and makes a change (then Cancel),
 // makes a change and takes it back (then OK), and edits for real (then OK).
-using Script = void (*)(Driver &);
-
 void listOpened(Driver &dialog)
 {
     QCOMPARE(dialog.rows(), QStringList({"A", "B", "C"}));
-    dialog.addRow(QStringLiteral("Cancelled"));
+    dialog.play("nCancelled");
 }
-void listChangedBack(Driver &dialog)
-{
-    dialog.select(1);
-    dialog.typeProperty(QStringLiteral("text"), QStringLiteral("Bx"));
-    dialog.typeProperty(QStringLiteral("text"), QStringLiteral("B"));
-}
+void listChangedBack(Driver &dialog) { dialog.play("s1 ptext=Bx ptext=B"); }
 // A new entry with every value the editor offers, a deletion, a move.
 void listEdit(Driver &dialog)
 {
-    dialog.select(1);
-    dialog.addRow(QStringLiteral("Addd"));
-    dialog.renameCurrent(QStringLiteral("Added"));
+    dialog.play("s1 nAddd rAdded");
     for (const QString &property : dialog.propertyNames()) {
         if (property == QLatin1String("icon"))
             dialog.chooseIconFile(property, testIcon);
         else if (property != QLatin1String("text"))
             dialog.typeProperty(property, property + QStringLiteral("Added"));
     }
-    dialog.select(0);
-    dialog.click("deleteListItemButton");
-    dialog.select(1);
-    dialog.click("moveListItemUpButton");
+    dialog.play("s0 d s1 u");
     QCOMPARE(dialog.rows(), QStringList({"Added", "B", "C"}));
 }
 
@@ -156,41 +142,30 @@ void matrixOpened(Driver &dialog)
     QVERIFY(columns);
     QCOMPARE(rows->minimum(), 1);
     QCOMPARE(columns->maximum(), 99);
-    QCOMPARE(dialog.rows(), QStringList({"a", "b", "c", "d", "e", ""}));
     QCOMPARE(rows->value(), 2);
     QCOMPARE(columns->value(), 3);
-    QCOMPARE(dialog.table()->currentRow(), 0);
-    QCOMPARE(dialog.table()->currentColumn(), 0);
+    QCOMPARE(dialog.rows(), QStringList({"a", "b", "c", "d", "e", ""}));
+    // The first cell is current.
     QCOMPARE(dialog.propertyValue(QStringLiteral("text")), QStringLiteral("a"));
     QCOMPARE(dialog.propertyValue(QStringLiteral("toolTip")), QStringLiteral("tipa"));
     QCOMPARE(dialog.propertyValue(QStringLiteral("action")), QStringLiteral("acta"));
-    dialog.stepTo("rowCounts", 3);
+    dialog.play("R3");
 }
-void matrixChangedBack(Driver &dialog)
-{
-    dialog.selectCell(0, 1);
-    dialog.typeProperty(QStringLiteral("text"), QStringLiteral("bx"));
-    dialog.typeProperty(QStringLiteral("text"), QStringLiteral("b"));
-}
+void matrixChangedBack(Driver &dialog) { dialog.play("c0,1 ptext=bx ptext=b"); }
 // A row more and a column less, a cell typed in place, values on a cell that had no item.
 void matrixEdit(Driver &dialog)
 {
     // No cell is current after a change of size; the pane shows defaults.
-    dialog.stepTo("rowCounts", 3);
+    dialog.play("R3");
     QCOMPARE(dialog.table()->currentRow(), -1);
-    dialog.stepTo("colCounts", 2);
+    dialog.play("C2");
     QCOMPARE(dialog.table()->currentRow(), -1);
     QCOMPARE(dialog.propertyValue(QStringLiteral("text")), QString());
-    dialog.selectCell(2, 0);
-    dialog.renameCurrent(QStringLiteral("g"));
+    dialog.play("c2,0 rg");
     QCOMPARE(dialog.propertyValue(QStringLiteral("text")), QStringLiteral("g"));
-    dialog.typeProperty(QStringLiteral("toolTip"), QStringLiteral("tipg"));
-    dialog.selectCell(2, 1);
-    dialog.typeProperty(QStringLiteral("action"), QStringLiteral("acth"));
+    dialog.play("ptoolTip=tipg c2,1 paction=acth");
     QCOMPARE(dialog.rows(), QStringList({"a", "b", "d", "e", "g", ""}));
 }
-const Script listScripts[] = {listOpened, listChangedBack, listEdit};
-const Script matrixScripts[] = {matrixOpened, matrixChangedBack, matrixEdit};
 
 // The ten widget families with item editors: each with its entries in a form and what its
 // widget shows of them, its editor, and an edit's results.
@@ -368,11 +343,8 @@ void act(Driver &dialog, const Family &family, const Action &action)
 {
     if (injectedFault && injectedFault(dialog, action))
         return dialog.fail(QStringLiteral("injected fault"));
-    const int rows = dialog.list() ? dialog.list()->count() : dialog.table()->rowCount();
-    const int columns = dialog.table() ? dialog.table()->columnCount() : 1;
-    const bool current = dialog.list()
-            ? dialog.list()->currentRow() >= 0
-            : dialog.table()->currentRow() >= 0 && dialog.table()->currentColumn() >= 0;
+    const QAbstractItemModel *model = dialog.view()->model();
+    const int rows = model->rowCount(), columns = model->columnCount();
     const bool pane = !dialog.propertyNames().isEmpty();
     const QStringList strings = family.properties.filter(QRegularExpression("^(?!icon$)"));
     if (action.act == 's' && rows > 0)
@@ -380,19 +352,17 @@ void act(Driver &dialog, const Family &family, const Action &action)
     else if (action.act == 'n')
         dialog.addRow(action.text);
     else if (action.act == 'd' || action.act == 'u' || action.act == 'D')
-        dialog.click(action.act == 'd'           ? "deleteListItemButton"
-                             : action.act == 'u' ? "moveListItemUpButton"
-                                                 : "moveListItemDownButton");
-    else if (action.act == 'r' && current)
+        dialog.play(QString(QLatin1Char(action.act)));
+    else if (action.act == 'r' && dialog.view()->currentIndex().isValid())
         dialog.renameCurrent(action.text);
     else if (action.act == 'p' && pane)
         dialog.typeProperty(strings.at(action.a % strings.size()), action.text);
     else if (action.act == 'i' && pane && family.properties.contains(QStringLiteral("icon")))
         dialog.chooseIconFile(QStringLiteral("icon"), testIcon);
     else if (action.act == 'R' || action.act == 'C')
-        dialog.stepTo(action.act == 'R' ? "rowCounts" : "colCounts", 1 + action.a % 5);
+        dialog.play(QLatin1Char(action.act) + QString::number(1 + action.a % 5));
     else if (action.act == 'c' && rows > 0 && columns > 0)
-        dialog.selectCell(action.a % rows, action.b % columns);
+        dialog.select(action.a % rows, action.b % columns);
 }
 
 // The first promise a form breaks after a step, or an empty text.
@@ -518,7 +488,6 @@ private slots:
     {
         QFETCH(int, index);
         const Family &family = families[index];
-        const Script *scripts = family.list ? listScripts : matrixScripts;
         QDesignerFormWindowInterface *form = createFormWindow(familyForm(family));
         const auto closeForm = qScopeGuard([form] { closeFormWindow(form); });
         QWidget *widget = formChild(form, "edited");
@@ -534,15 +503,15 @@ private slots:
         const auto opened = [&](Driver &dialog) {
             QCOMPARE(dialog.dialog()->windowTitle(), QLatin1String(family.title));
             QCOMPARE(dialog.propertyNames(), family.properties);
-            scripts[0](dialog);
+            family.list ? listOpened(dialog) : matrixOpened(dialog);
         };
         QCOMPARE(edit(widget, opened, false), QString());
-        QCOMPARE(edit(widget, scripts[1]), QString());
+        QCOMPARE(edit(widget, family.list ? listChangedBack : matrixChangedBack), QString());
         QCOMPARE(history->count(), 0);
         QVERIFY(!form->isDirty());
         QCOMPARE(form->contents(), original);
 
-        QCOMPARE(edit(widget, scripts[2]), QString());
+        QCOMPARE(edit(widget, family.list ? listEdit : matrixEdit), QString());
         // One step: a button matrix's counts go with its change.
         QCOMPARE(history->count(), 1);
         QCOMPARE(history->text(0), QLatin1String(family.command));
@@ -595,39 +564,23 @@ private slots:
         const QString empty = form->contents();
         const QStringList blank = family.shown(widget);
         QCOMPARE(blank.mid(1).join(QString()), QString());
-        QCOMPARE(edit(widget,
-                      [&](Driver &dialog) {
-                          QCOMPARE(dialog.rows().join(QString()), QString());
-                          if (family.list) {
-                              QCOMPARE(dialog.rows(), QStringList());
-                              dialog.addRow(QStringLiteral("Only"));
-                          } else {
-                              dialog.selectCell(0, 0);
-                              dialog.renameCurrent(QStringLiteral("Only"));
-                          }
-                      }),
-                 QString());
-        QStringList one = family.list ? QStringList({QString()}) : blank;
-        one[family.list ? 0 : 1] = QStringLiteral("Only");
-        QCOMPARE(family.shown(widget), one);
+        const auto addOne = [&](Driver &dialog) {
+            QCOMPARE(dialog.rows(), family.list ? QStringList() : blank.mid(1));
+            dialog.play(family.list ? "nOnly" : "c0,0 rOnly");
+        };
+        QCOMPARE(edit(widget, addOne), QString());
+        QCOMPARE(family.shown(widget),
+                 family.list ? QStringList({"Only"})
+                             : blank.mid(0, 1) + QStringList({"Only"}) + blank.mid(2));
         const QString withOne = form->contents();
-        QUndoStack *history = form->commandHistory();
-        const int oneAdded = history->index();
-
-        QCOMPARE(edit(widget,
-                      [&](Driver &dialog) {
-                          if (family.list) {
-                              dialog.select(0);
-                              dialog.click("deleteListItemButton");
-                          } else {
-                              dialog.selectCell(0, 0);
-                              dialog.renameCurrent(QString());
-                          }
-                      }),
-                 QString());
+        const auto deleteIt = [&family](Driver &dialog) {
+            dialog.play(family.list ? "s0 d" : "c0,0 r");
+        };
+        QCOMPARE(edit(widget, deleteIt), QString());
         QCOMPARE(family.shown(widget), blank);
         QCOMPARE(comparable(family, form->contents()), comparable(family, empty));
-        history->setIndex(oneAdded);
+        QUndoStack *history = form->commandHistory();
+        history->setIndex(1);
         QCOMPARE(form->contents(), withOne);
         history->setIndex(0);
         QCOMPARE(comparable(family, form->contents()), comparable(family, empty));
@@ -644,10 +597,8 @@ private slots:
         QWidget *widget = formChild(form, "edited");
         QCOMPARE(edit(widget,
                       [](Driver &dialog) {
-                          while (dialog.ok() && dialog.list()->count()) {
-                              dialog.select(0);
-                              dialog.click("deleteListItemButton");
-                          }
+                          while (dialog.ok() && dialog.list()->count())
+                              dialog.play("s0 d");
                       }),
                  QString());
         QCOMPARE(family.shown(widget), QStringList());
@@ -683,10 +634,7 @@ private slots:
         const auto closeForm = qScopeGuard([form] { closeFormWindow(form); });
         const QString original = form->contents();
         QCOMPARE(edit(formChild(form, "edited"),
-                      [](Driver &dialog) {
-                          dialog.selectCell(0, 1);
-                          dialog.typeProperty(QStringLiteral("toolTip"), QStringLiteral("tipb"));
-                      }),
+                      [](Driver &dialog) { dialog.play("c0,1 ptoolTip=tipb"); }),
                  QString());
         const QString edited = form->contents();
         QCOMPARE(brokenPromise(form, family, original, edited), QString());
@@ -702,52 +650,39 @@ private slots:
     {
         QFETCH(int, index);
         const Family &family = families[index];
-        const QString text = QLatin1String(family.list ? "B" : "a");
-        const QString tip = QLatin1String(family.list ? "tipB" : "tipa");
         // The page group's editor offers a tool tip but keeps titles only.
-        const QStringList tips = family.shown == shownByPageGroup
-                ? QStringList()
-                : family.properties.filter(QRegularExpression(QStringLiteral("^tool[tT]ip$")));
-        const auto pick = [&family](Driver &dialog) {
-            if (family.list)
-                dialog.select(1);
-            else
-                dialog.selectCell(0, 0);
-        };
+        const QString tip = family.shown == shownByPageGroup
+                ? QString()
+                : family.properties.filter(QRegularExpression(QStringLiteral("^tool[tT]ip$")))
+                          .value(0);
+        const QString pick = QLatin1String(family.list ? "s1 " : "c0,0 ");
         QDesignerFormWindowInterface *form = createFormWindow(familyForm(family));
         const auto closeForm = qScopeGuard([form] { closeFormWindow(form); });
         const QString original = form->contents();
-        QCOMPARE(edit(formChild(form, "edited"),
-                      [&](Driver &dialog) {
-                          pick(dialog);
-                          dialog.typeProperty(QStringLiteral("text/disambiguation"),
-                                              QStringLiteral("menu"));
-                          dialog.typeProperty(QStringLiteral("text/comment"),
-                                              QStringLiteral("note"));
-                          for (const QString &name : tips)
-                              dialog.toggleProperty(name + QStringLiteral("/translatable"));
-                      }),
+        const QString marks = pick + QStringLiteral("ptext/disambiguation=menu ptext/comment=note")
+                + (tip.isEmpty() ? QString() : QStringLiteral(" t%1/translatable").arg(tip));
+        QCOMPARE(edit(formChild(form, "edited"), [&marks](Driver &dialog) { dialog.play(marks); }),
                  QString());
         const QString marked = form->contents();
         QVERIFY2(
                 marked.contains(QStringLiteral("comment=\"menu\" extracomment=\"note\">%1</string>")
-                                        .arg(text)),
+                                        .arg(family.list ? "B" : "a")),
                 qPrintable(marked));
-        if (!tips.isEmpty())
-            QVERIFY2(marked.contains(QStringLiteral("notr=\"true\">%1</string>").arg(tip)),
+        if (!tip.isEmpty())
+            QVERIFY2(marked.contains(QStringLiteral("notr=\"true\">%1</string>")
+                                             .arg(family.list ? "tipB" : "tipa")),
                      qPrintable(marked));
-
         QCOMPARE(brokenPromise(form, family, original, marked), QString());
 
         QDesignerFormWindowInterface *reopened = createFormWindow(marked);
         const auto closeReopened = qScopeGuard([reopened] { closeFormWindow(reopened); });
         const auto shown = [&](Driver &dialog) {
-            pick(dialog);
+            dialog.play(pick);
             QCOMPARE(dialog.propertyValue(QStringLiteral("text/disambiguation")),
                      QStringLiteral("menu"));
             QCOMPARE(dialog.propertyValue(QStringLiteral("text/comment")), QStringLiteral("note"));
-            for (const QString &name : tips)
-                QCOMPARE(dialog.propertyValue(name + QStringLiteral("/translatable")),
+            if (!tip.isEmpty())
+                QCOMPARE(dialog.propertyValue(tip + QStringLiteral("/translatable")),
                          QStringLiteral("False"));
         };
         QCOMPARE(edit(formChild(reopened, "edited"), shown, false), QString());
