@@ -84,6 +84,14 @@ private slots:
                                    "_ZTV18ExtraInfoExtension", "_Z16widgetPluginRowsv"};
         for (const char *symbol : internals)
             QVERIFY2(!module.resolve(symbol), symbol);
+#ifndef CC_EXTERNAL_QTPROPERTYBROWSER
+        // Nor its copy of the property browser, whose classes Designer's own components also
+        // have: a plug-in's and Designer's would be taken for each other.
+        for (const char *symbol :
+             {"_ZN24QtVariantPropertyManager10enumTypeIdEv",
+              "_ZN21QtTreePropertyBrowser16staticMetaObjectE", "_ZN10QtPropertyD2Ev"})
+            QVERIFY2(!module.resolve(symbol), symbol);
+#endif
     }
 };
 
