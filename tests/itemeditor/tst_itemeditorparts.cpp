@@ -25,8 +25,6 @@
 #include <QtDesigner>
 #include <QtTest>
 
-#include <dlfcn.h>
-
 using namespace qdesigner_internal;
 using CcTest::openEditor;
 using CcTest::stringOf;
@@ -322,35 +320,6 @@ private slots:
         designerEditor->setObject(m_label);
         QCOMPARE(designerEditor->object(), static_cast<QObject *>(m_label));
         QVERIFY(m_form->contents().contains(QStringLiteral("<string>theirs</string>")));
-
-        // A module linking the browser, loaded like a plug-in, keeps its copy to itself: none of
-        // the browser's symbols are visible outside it.
-#ifdef CC_EXTERNAL_QTPROPERTYBROWSER
-        QSKIP("Built against an installed property browser");
-#endif
-        void *module = dlopen(CC_PROPERTYBROWSER_MODULE, RTLD_NOW | RTLD_LOCAL);
-        QVERIFY2(module, dlerror());
-        for (const char *symbol :
-             {"_ZN24QtVariantPropertyManager10enumTypeIdEv",
-              "_ZN21QtTreePropertyBrowser16staticMetaObjectE", "_ZN10QtPropertyD2Ev"})
-            QVERIFY2(!dlsym(module, symbol), symbol);
-        using Create = QWidget *(*)();
-        auto create = reinterpret_cast<Create>(dlsym(module, "ccCreatePropertyBrowser"));
-        QVERIFY(create);
-        QWidget *browser = create();
-        QVERIFY(browser->inherits("QtTreePropertyBrowser"));
-        QVERIFY(!qobject_cast<QtTreePropertyBrowser *>(browser));
-        Dl_info info {};
-        QVERIFY(dladdr(browser->metaObject(), &info));
-        QVERIFY(info.dli_fname);
-        QCOMPARE(QFileInfo(QString::fromLocal8Bit(info.dli_fname)).canonicalFilePath(),
-                 QFileInfo(QStringLiteral(CC_PROPERTYBROWSER_MODULE)).canonicalFilePath());
-        auto *tree = browser->findChild<QTreeWidget *>();
-        QVERIFY(tree);
-        QCOMPARE(tree->topLevelItemCount(), 1);
-        QCOMPARE(tree->topLevelItem(0)->text(0), QStringLiteral("text"));
-        delete browser; // its manager and factory go with it
-        // The module stays loaded: Qt keeps references to its meta-objects.
     }
 
     void cleanup() { m_editor.reset(); }
