@@ -655,18 +655,22 @@ private slots:
                 ? QString()
                 : family.properties.filter(QRegularExpression(QStringLiteral("^tool[tT]ip$")))
                           .value(0);
-        const QString pick = QLatin1String(family.list ? "s1 " : "c0,0 ");
+        // In a matrix the text of a cell below the first row, the tool tip of the first cell:
+        // marks must land on their own cells.
+        const QString pick = QLatin1String(family.list ? "s1 " : "c1,0 ");
+        const QString pickTip = QLatin1String(family.list ? "" : "c0,0 ");
         QDesignerFormWindowInterface *form = createFormWindow(familyForm(family));
         const auto closeForm = qScopeGuard([form] { closeFormWindow(form); });
         const QString original = form->contents();
         const QString marks = pick + QStringLiteral("ptext/disambiguation=menu ptext/comment=note")
-                + (tip.isEmpty() ? QString() : QStringLiteral(" t%1/translatable").arg(tip));
+                + (tip.isEmpty() ? QString()
+                                 : QStringLiteral(" %1t%2/translatable").arg(pickTip, tip));
         QCOMPARE(edit(formChild(form, "edited"), [&marks](Driver &dialog) { dialog.play(marks); }),
                  QString());
         const QString marked = form->contents();
         QVERIFY2(
                 marked.contains(QStringLiteral("comment=\"menu\" extracomment=\"note\">%1</string>")
-                                        .arg(family.list ? "B" : "a")),
+                                        .arg(family.list ? "B" : "d")),
                 qPrintable(marked));
         if (!tip.isEmpty())
             QVERIFY2(marked.contains(QStringLiteral("notr=\"true\">%1</string>")
@@ -681,6 +685,7 @@ private slots:
             QCOMPARE(dialog.propertyValue(QStringLiteral("text/disambiguation")),
                      QStringLiteral("menu"));
             QCOMPARE(dialog.propertyValue(QStringLiteral("text/comment")), QStringLiteral("note"));
+            dialog.play(pickTip);
             if (!tip.isEmpty())
                 QCOMPARE(dialog.propertyValue(tip + QStringLiteral("/translatable")),
                          QStringLiteral("False"));
