@@ -484,6 +484,9 @@ private slots:
         QCOMPARE(itemProperty("checkState")->value().toInt(), 2);
     }
 
+    // What the item editing suite's scripts do not see: which buttons can be used, where New
+    // goes with no row current, selections reported or not, and the pane with no row left.
+    // (Renaming in place and deleting the last row are checked there, in the edited forms.)
     void listOperationsAndSelectionRules()
     {
         ItemListEditor *editor = makeEditor({"A", "B", "C"});
@@ -492,15 +495,6 @@ private slots:
             QTest::mouseClick(editor->findChild<QToolButton *>(QLatin1String(button)),
                               Qt::LeftButton);
         };
-        // Types into the in-place editor of a row and ends with the key.
-        const auto typeInPlace = [list](const QString &text, Qt::Key key) {
-            QLineEdit *inPlace = list->findChild<QLineEdit *>();
-            QVERIFY(inPlace);
-            inPlace->selectAll();
-            QTest::keyClicks(inPlace, text);
-            QTest::keyClick(inPlace, key);
-            CcTest::settle();
-        };
         // New opens the new item for renaming; Escape keeps its text.
         const auto clickNew = [&] {
             click("newListItemButton");
@@ -508,7 +502,8 @@ private slots:
             QVERIFY(inPlace);
             QVERIFY(inPlace->isVisible());
             QCOMPARE(inPlace->text(), QStringLiteral("New Item"));
-            typeInPlace(QStringLiteral("Abandoned"), Qt::Key_Escape);
+            QTest::keyClick(inPlace, Qt::Key_Escape);
+            CcTest::settle();
         };
 
         // setCurrentIndex selects silently; a user's selection is reported.
@@ -520,55 +515,23 @@ private slots:
         QCOMPARE(index.size(), 1);
         QCOMPARE(index.last().at(0).toInt(), 1);
 
-        // New goes below the current row, appends on the last, and goes first with none current.
-        clickNew();
-        QCOMPARE(stringOf(list->item(2)->data(Qt::DisplayPropertyRole)),
-                 PropertySheetStringValue(QStringLiteral("New Item")));
-        list->setCurrentRow(3);
-        clickNew();
+        // New with no row current goes first; a click on a disabled button does nothing.
         list->setCurrentRow(-1);
-        QCOMPARE(listState(editor), QStringLiteral("A B New Item C New Item "));
+        QCOMPARE(listState(editor), QStringLiteral("A B C "));
         clickNew();
-        QCOMPARE(listState(editor), QStringLiteral("[New Item] A B New Item C New Item dv"));
-
-        // Up and down move the item and keep it current; a click on a disabled button does
-        // nothing.
-        list->setCurrentRow(4);
+        QCOMPARE(listState(editor), QStringLiteral("[New Item] A B C dv"));
         click("moveListItemUpButton");
-        for (int i = 0; i < 3; ++i)
-            click("moveListItemDownButton");
-        QCOMPARE(listState(editor), QStringLiteral("New Item A B New Item New Item [C] du"));
+        list->setCurrentRow(3);
+        click("moveListItemDownButton");
+        QCOMPARE(listState(editor), QStringLiteral("New Item A B [C] du"));
 
-        // Deleting keeps the row number selected and the pane shows the item now there; deleting
-        // the last row of several selects the new last row; deleting everything leaves no
-        // enabled button and an empty pane.
-        list->setCurrentRow(1);
-        click("deleteListItemButton");
-        QCOMPARE(stringOf(itemProperty("text")->value()).value(), QStringLiteral("B"));
-        list->setCurrentRow(4);
-        click("deleteListItemButton");
-        QCOMPARE(listState(editor), QStringLiteral("New Item B New Item [New Item] du"));
+        // Deleting everything leaves no button to use and an empty pane; New fills it again.
         while (list->count())
             click("deleteListItemButton");
         QCOMPARE(listState(editor), QString());
         QVERIFY(editor->propertyBrowser()->topLevelItems().isEmpty());
         clickNew();
         QCOMPARE(editor->propertyBrowser()->topLevelItems().size(), 8);
-
-        // Renaming in place keeps the value's translation data and reports the display role.
-        QListWidgetItem *item = list->item(0);
-        const PropertySheetStringValue before("B", false, "dis", "note");
-        item->setData(Qt::DisplayPropertyRole, QVariant::fromValue(before));
-        QSignalSpy changed(editor, &ItemListEditor::itemChanged);
-        list->editItem(item);
-        typeInPlace(QStringLiteral("Renamed"), Qt::Key_Return);
-        PropertySheetStringValue renamed = before;
-        renamed.setValue(QStringLiteral("Renamed"));
-        QCOMPARE(stringOf(item->data(Qt::DisplayPropertyRole)), renamed);
-        QCOMPARE(changed.size(), 1);
-        QCOMPARE(changed.first().mid(0, 2), QVariantList({0, int(Qt::DisplayPropertyRole)}));
-        QCOMPARE(stringOf(changed.first().at(2)), renamed);
-        QCOMPARE(stringOf(itemProperty("text")->value()), renamed);
     }
 
     void reLayoutOnlyWhenTheLineCountChanges()

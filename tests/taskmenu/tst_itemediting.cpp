@@ -114,7 +114,8 @@ void listOpened(Driver &dialog)
     dialog.play("nCancelled");
 }
 void listChangedBack(Driver &dialog) { dialog.play("s1 ptext=Bx ptext=B"); }
-// A new entry with every value the editor offers, a deletion, a move.
+// A new entry with every value the editor offers, a deletion, a move; the last entry deleted,
+// which leaves the one above current, renamed through the pane.
 void listEdit(Driver &dialog)
 {
     dialog.play("s1 nAddd rAdded");
@@ -124,8 +125,8 @@ void listEdit(Driver &dialog)
         else if (property != QLatin1String("text"))
             dialog.typeProperty(property, property + QStringLiteral("Added"));
     }
-    dialog.play("s0 d s1 u");
-    QCOMPARE(dialog.rows(), QStringList({"Added", "B", "C"}));
+    dialog.play("s0 d s1 u s2 d ptext=Bee");
+    QCOMPARE(dialog.rows(), QStringList({"Added", "Bee"}));
 }
 
 void matrixOpened(Driver &dialog)
@@ -186,7 +187,7 @@ struct Family
 };
 
 const QStringList abc = {"A", "B", "C"};
-const QStringList addedBC = {"Added", "B", "C"};
+const QStringList addedBee = {"Added", "Bee"};
 const QStringList grid = {"2x3", "a", "b", "c", "d", "e", ""};
 const QStringList editedGrid = {"3x2", "a", "b", "d", "e", "g", ""};
 const QStringList gridIn3x2 = {"3x2", "a", "b", "c", "d", "e", ""};
@@ -196,17 +197,17 @@ const QStringList optionSaved = {"@icon", "tooltipAdded", "dataAdded", "tipB", "
 // clang-format off
 const Family families[] = {
     {"VoCc::ComboBox", "Edit Items", "Edit ComboBox", {"text", "icon", "action"}, "", shownByComboBox,
-     entries(untranslated("action", "actB")), true, abc, addedBC, abc, {"@icon", "actionAdded", "actB"}, {}},
+     entries(untranslated("action", "actB")), true, abc, addedBee, abc, {"@icon", "actionAdded", "actB"}, {}},
     {"VoCc::CheckableTextComboBox", "Edit Items", "Edit Checkable ComboBox", {"text", "toolTip"}, "", shownByInnerCombo,
-     entries(propertyXml("toolTip", "tipB")), true, abc, addedBC, abc, {"toolTipAdded", "tipB"}, {}},
+     entries(propertyXml("toolTip", "tipB")), true, abc, addedBee, abc, {"toolTipAdded", "tipB"}, {}},
     {"VoCc::OptionComboBox", "Edit Items", "Edit Option ComboBox", {"text", "icon", "data"}, "", shownByInnerCombo,
-     entries(untranslated("data", "dB")), true, abc, addedBC, abc, {"@icon", "dataAdded", "dB"}, {}},
+     entries(untranslated("data", "dB")), true, abc, addedBee, abc, {"@icon", "dataAdded", "dB"}, {}},
     {"VoCc::OptionButtons", "Edit Buttons", "Edit OptionButtons", {"text", "icon", "tooltip", "data"}, "Change OptionButtons Contents", shownByButtons<VoCc::OptionButtons>,
-     entries(optionExtras), true, abc, addedBC, abc, optionSaved, {}},
+     entries(optionExtras), true, abc, addedBee, abc, optionSaved, {}},
     {"VoCc::OptionRadios", "Edit Buttons", "Edit OptionRadios", {"text", "icon", "tooltip", "data"}, "Change OptionRadios Contents", shownByButtons<VoCc::OptionRadios>,
-     entries(optionExtras), true, abc, addedBC, abc, optionSaved, {}},
+     entries(optionExtras), true, abc, addedBee, abc, optionSaved, {}},
     {"VoCc::DrawbackBoxGroup", "Edit DrawbackBox", "Edit DrawbackBoxGroup", {"text", "tooltip", "data"}, "Change OptionRadios Contents", shownByPageGroup,
-     pages, true, abc, addedBC, abc, {}, {"tooltipAdded", "dataAdded"}},
+     pages, true, abc, addedBee, abc, {}, {"tooltipAdded", "dataAdded"}},
     {"VoCc::MatrixPushButtons", "Edit Buttons", "Edit Matrix buttons", {"text", "icon", "toolTip", "action"}, "Change MatrixButtons Contents", shownByMatrix<VoCc::AbstractMatrixOptions>,
      matrixEntries, false, grid, editedGrid, gridIn3x2, matrixSaved, {}},
     {"VoCc::MatrixRadioButtons", "Edit Buttons", "Edit Matrix buttons", {"text", "icon", "toolTip", "action"}, "Change MatrixButtons Contents", shownByMatrix<VoCc::AbstractMatrixOptions>,
@@ -662,7 +663,8 @@ private slots:
         QDesignerFormWindowInterface *form = createFormWindow(familyForm(family));
         const auto closeForm = qScopeGuard([form] { closeFormWindow(form); });
         const QString original = form->contents();
-        const QString marks = pick + QStringLiteral("ptext/disambiguation=menu ptext/comment=note")
+        // Renamed in place after being marked: the marks stay.
+        const QString marks = pick + QStringLiteral("ptext/disambiguation=menu ptext/comment=note rNew")
                 + (tip.isEmpty() ? QString()
                                  : QStringLiteral(" %1t%2/translatable").arg(pickTip, tip));
         QCOMPARE(edit(formChild(form, "edited"), [&marks](Driver &dialog) { dialog.play(marks); }),
@@ -670,7 +672,7 @@ private slots:
         const QString marked = form->contents();
         QVERIFY2(
                 marked.contains(QStringLiteral("comment=\"menu\" extracomment=\"note\">%1</string>")
-                                        .arg(family.list ? "B" : "d")),
+                                        .arg(QLatin1String("New"))),
                 qPrintable(marked));
         if (!tip.isEmpty())
             QVERIFY2(marked.contains(QStringLiteral("notr=\"true\">%1</string>")
