@@ -627,7 +627,8 @@ void readPopButtonTexts(const DomWidget *domWidget, Lists &lists, QStringList &d
             const QString where = QStringLiteral("item %1 ").arg(i + 1);
             dropped.append(droppedValue(where, fieldName(Text), {QString(), text}));
             for (auto a = own.cbegin(); a != own.cend(); ++a)
-                dropped.append(droppedValue(where, fieldName(Text), {a.key(), a.value().toString()}));
+                dropped.append(
+                        droppedValue(where, fieldName(Text), {a.key(), a.value().toString()}));
             continue;
         }
         while (texts.size() <= i)
@@ -777,8 +778,8 @@ QWidget *FormBuilder::create(DomUI *ui, QWidget *parentWidget)
 
 QWidget *FormBuilder::create(DomWidget *domWidget, QWidget *parentWidget)
 {
-    const QHash<int, QString> wholeTexts = domWidget->attributeClass()
-                    == QLatin1String("VoCc::ComboBox")
+    const QHash<int, QString> wholeTexts =
+            domWidget->attributeClass() == QLatin1String("VoCc::ComboBox")
             ? cutLongItemTexts(domWidget)
             : QHash<int, QString>();
     QStringList dropped;

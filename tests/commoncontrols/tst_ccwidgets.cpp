@@ -423,7 +423,6 @@ private slots:
         collapsedFirst.show();
         QVERIFY(late->isHidden());
     }
-
 };
 
 QTEST_MAIN(TestCcWidgets)

@@ -664,7 +664,8 @@ private slots:
         const auto closeForm = qScopeGuard([form] { closeFormWindow(form); });
         const QString original = form->contents();
         // Renamed in place after being marked: the marks stay.
-        const QString marks = pick + QStringLiteral("ptext/disambiguation=menu ptext/comment=note rNew")
+        const QString marks = pick
+                + QStringLiteral("ptext/disambiguation=menu ptext/comment=note rNew")
                 + (tip.isEmpty() ? QString()
                                  : QStringLiteral(" %1t%2/translatable").arg(pickTip, tip));
         QCOMPARE(edit(formChild(form, "edited"), [&marks](Driver &dialog) { dialog.play(marks); }),
